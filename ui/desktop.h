@@ -1,0 +1,28 @@
+// What the game asks of the screen beyond the models of its windows.
+// A desktop mirrors the models; it never changes them but through the functions of ui/input.h.
+#pragma once
+
+#include <string_view>
+
+#include "ui/controls.h"
+
+namespace ui {
+
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+
+    // Whether a font family of exactly this name is installed.
+    virtual bool HasFontFamily(std::string_view name) const = 0;
+
+    // A message with one OK button; returns when it is acknowledged.
+    virtual void ShowMessageBox(std::string_view text, std::string_view title) = 0;
+
+    // Shows the form, which alone takes input, and returns when it has been hidden.
+    virtual void ShowModal(Form& form) = 0;
+
+    // How many lines the box displays.
+    virtual std::size_t CountLines(const TextBox& box) const = 0;
+};
+
+}  // namespace ui
