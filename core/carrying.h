@@ -1,0 +1,17 @@
+// The inventory: five slots, the carried items always first.
+#pragma once
+
+#include "core/game.h"
+
+// From the current sector into the first free slot; a full inventory answers with a refusal and changes nothing.
+void TakeItem(Game& game, Item item);
+
+// Into the current sector. The caller knows that the item is carried.
+void DropItem(Game& game, Item item);
+
+// Nowhere: the item is used up. An item that is not carried changes nothing.
+void RemoveFromInventory(Game& game, Item item);
+
+bool IsCarried(const GameState& state, Item item);
+
+void RefreshInventoryList(Game& game);

@@ -1,0 +1,32 @@
+// The 16-bit little-endian words that every file of the game is made of.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <vector>
+
+using Bytes = std::vector<std::uint8_t>;
+
+// Throws GameError with the given Czech sentence when the file cannot be read to its end.
+Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable);
+
+class WordReader {
+public:
+    // Whatever turns out to be wrong with the file is thrown as GameError with the given Czech sentence.
+    WordReader(std::span<const std::uint8_t> file, std::string damaged) : rest(file), sentence(std::move(damaged)) {}
+
+    std::int16_t Take();
+    std::size_t TakeLength();  // one that the rest of the file can hold, a word an element
+
+    // The characters' codes in Windows-1250 plus a key.
+    std::string TakeText(std::size_t length, std::int16_t key);
+
+    [[noreturn]] void Refuse() const;
+
+private:
+    std::span<const std::uint8_t> rest;
+    std::string sentence;
+};
