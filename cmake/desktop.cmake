@@ -1,0 +1,34 @@
+# The game with its windows: the Qt desktop, the pictures and the program itself.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+
+orvel_library(ui/qt orvel_ui Qt6::Widgets)
+
+# Pictures are drawn at twice their window's size, to stay sharp on dense screens. The game knows them by names without an extension.
+function(orvel_picture name width height)
+    if(NOT EXISTS ${PROJECT_SOURCE_DIR}/art/${name}.svg)
+        return()
+    endif()
+    math(EXPR width "2 * ${width}")
+    math(EXPR height "2 * ${height}")
+    add_custom_command(OUTPUT ${program_folder}/data/pics/${name}
+        COMMAND ${RSVG_CONVERT} --width ${width} --height ${height} --output ${program_folder}/data/pics/${name} art/${name}.svg
+        DEPENDS art/${name}.svg
+        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+        COMMENT "Drawing ${name}")
+    set_property(GLOBAL APPEND PROPERTY orvel_pictures ${program_folder}/data/pics/${name})
+endfunction()
+
+orvel_picture(gui1 665 562)
+orvel_picture(gui2 433 309)
+orvel_picture(gui3 194 73)
+orvel_picture(gui4 312 217)
+get_property(pictures GLOBAL PROPERTY orvel_pictures)
+add_custom_target(pictures ALL DEPENDS ${pictures})
+
+if(EXISTS ${PROJECT_SOURCE_DIR}/app/main.cpp)
+    add_executable(orvel-tavoren app/main.cpp)
+    target_link_libraries(orvel-tavoren PRIVATE orvel_app orvel_ui_qt)
+    set_target_properties(orvel-tavoren PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${program_folder})
+    add_dependencies(orvel-tavoren pictures story)
+endif()

@@ -1,0 +1,37 @@
+// pack_texts SOURCE TARGET: packs the story; ends with 1 and the reason on standard error, the target untouched, when it cannot.
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+
+#include "tools/pack_texts.h"
+
+namespace {
+
+std::string ReadFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw tools::PackingError(path.string() + ": cannot be read");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void WriteWords(const std::filesystem::path& path, const std::vector<std::uint16_t>& words) {
+    std::ofstream file(path, std::ios::binary);
+    for (const std::uint16_t word : words) file.put(static_cast<char>(word & 0xFF)).put(static_cast<char>(word >> 8));
+    if (!file.flush()) throw tools::PackingError(path.string() + ": cannot be written");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::cerr << "usage: pack_texts SOURCE TARGET\n";
+        return 1;
+    }
+    try {
+        WriteWords(argv[2], tools::PackTexts(ReadFile(argv[1]), argv[1]));
+    } catch (const tools::PackingError& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+}
