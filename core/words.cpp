@@ -1,19 +1,24 @@
 #include "core/words.h"
 
+#include <array>
 #include <fstream>
-#include <iterator>
 
 #include "text/characters.h"
 #include "text/windows1250.h"
 #include "ui/errors.h"
 
-Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable) {
+Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough) {
     std::error_code error;
     std::ifstream file;
     // Opening a folder succeeds on some systems, and only reading it fails.
     if (std::filesystem::is_regular_file(path, error)) file.open(path, std::ios::binary);
     if (!file.is_open()) throw ui::GameError(unreadable);
-    Bytes bytes{std::istreambuf_iterator<char>(file), {}};
+    Bytes bytes;
+    std::array<char, 1 << 16> piece;
+    while (file && bytes.size() < enough) {
+        file.read(piece.data(), piece.size());
+        bytes.insert(bytes.end(), piece.begin(), piece.begin() + file.gcount());
+    }
     if (file.bad()) throw ui::GameError(unreadable);
     return bytes;
 }

@@ -10,8 +10,8 @@
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Throws GameError with the given Czech sentence when the file cannot be read to its end.
-Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable);
+// Throws GameError with the given Czech sentence when the file cannot be read. What comes after `enough` bytes may stay unread.
+Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough = SIZE_MAX);
 
 class WordReader {
 public:
