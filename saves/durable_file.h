@@ -1,0 +1,20 @@
+// Writing and finding the files of one folder so that neither a crash nor a full disk can cost a file that was there before.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <system_error>
+#include <vector>
+
+// Replaces the file as a whole or, when it throws, leaves the old one as it was. Afterwards the bytes are on the disk, not only
+// on their way there. Throws system_error.
+void ReplaceFile(const std::filesystem::path& file, std::span<const std::uint8_t> bytes);
+
+// Throws system_error when the folder is not there and cannot be made.
+void MakeFolder(const std::filesystem::path& folder);
+
+// The names of the folder's files in the order of the directory; what cannot be looked at is left out. Throws system_error when the
+// folder itself cannot be read.
+std::vector<std::string> FilesIn(const std::filesystem::path& folder);

@@ -1,0 +1,135 @@
+#include "saves/save_files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "core/carrying.h"
+#include "core/room_view.h"
+#include "core/shut_down.h"
+#include "saves/durable_file.h"
+#include "saves/save_format.h"
+#include "text/characters.h"
+#include "text/windows1250.h"
+#include "ui/errors.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view Extension = ".TVX";
+
+fs::path SavesFolder(const Game& game) {
+    return game.state.AppPath / "data" / "saves";
+}
+
+bool IsSave(std::string_view fileName) {
+    return text::UpperAscii(text::LastChars(fileName, 3)) == "TVX" && text::CharCount(fileName) >= Extension.size();
+}
+
+std::string_view SaveName(std::string_view fileName) {
+    return fileName.substr(0, fileName.size() - text::LastChars(fileName, Extension.size()).size());
+}
+
+// A game from a system where names have no case may be there as "Game1.tvx".
+std::string FileName(const fs::path& folder, std::string_view name) {
+    const std::string exact = std::string(name).append(Extension);
+    const auto files = FilesIn(folder);
+    if (std::ranges::find(files, exact) != files.end()) return exact;
+    const auto other = std::ranges::find_if(
+        files, [&](std::string_view file) { return file.starts_with(name) && text::UpperAscii(file.substr(name.size())) == Extension; });
+    return other == files.end() ? exact : *other;
+}
+
+void RefusePath(std::string_view name) {
+    using namespace std::string_view_literals;
+    if (name.find_first_of("/\\\0"sv) != std::string_view::npos) {
+        throw ui::GameError("Název pozice nesmí obsahovat lomítko ani nulový znak. Zvol prosím jiný.");
+    }
+}
+
+std::string_view Reason(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG: return "Na disku není dost místa.";
+        case EACCES:
+        case EPERM:
+        case EROFS: return "Složka data/saves je jen pro čtení nebo k ní chybí oprávnění.";
+        case ENOENT:
+        case ENOTDIR:
+        case EEXIST: return "Složka data/saves chybí nebo místo ní leží soubor.";
+        case ENAMETOOLONG: return "Název je příliš dlouhý. Zvol prosím kratší.";
+        case EINVAL:
+        case EILSEQ:
+        case EISDIR: return "Soubor s takovým názvem tu být nemůže. Zvol prosím jiný.";
+        default: return "Disk hlásí chybu.";
+    }
+}
+
+std::string Explain(std::string_view what, const std::system_error& error) {
+    return std::string(what).append(" ").append(Reason(error.code().value()));
+}
+
+// A whole number from 0 to 99.
+std::int16_t DrawKey(Game& game) {
+    return static_cast<std::int16_t>(game.random() * 100);
+}
+
+}  // namespace
+
+void ListSaves(Game& game) {
+    std::vector<std::string> files;
+    try {
+        MakeFolder(SavesFolder(game));
+        files = FilesIn(SavesFolder(game));
+    } catch (const std::system_error& error) {
+        // Not thrown on: the panel is to open all the same, since what is wrong may be put right while it is there.
+        game.desktop.ShowMessageBox(Explain("Uložené pozice se nepodařilo vypsat.", error), "Chyba");
+    }
+    ui::SystemWindow& panel = game.windows.Form4;
+    panel.List1.Clear();
+    panel.Text1.SetText("");
+    for (const std::string& file : files) {
+        // A foreign character becomes "?", which the panel refuses: such a file is seen but never touched.
+        if (IsSave(file)) panel.List1.Append(text::ReplaceForeignCharacters(SaveName(file)));
+    }
+}
+
+void SaveGame(Game& game, std::string_view name) {
+    RefusePath(name);
+    const std::int16_t nameKey = DrawKey(game);
+    const std::int16_t doorCodeKey = DrawKey(game);
+    const Bytes file = EncodeSave(game.state, name, {.Name = nameKey, .DoorCode = doorCodeKey});
+    try {
+        const fs::path folder = SavesFolder(game);
+        MakeFolder(folder);
+        ReplaceFile(folder / FileName(folder, name), file);
+    } catch (const std::system_error& error) {
+        throw ui::GameError(Explain("Pozici se nepodařilo uložit.", error));
+    }
+}
+
+void LoadGame(Game& game, std::string_view name) {
+    RefusePath(name);
+    const std::string unreadable = "Uloženou pozici se nepodařilo přečíst.";
+    Bytes file;
+    try {
+        const fs::path folder = SavesFolder(game);
+        file = ReadWholeFile(folder / FileName(folder, name), unreadable, MostSaveBytes);
+    } catch (const std::system_error& error) {
+        throw ui::GameError(Explain(unreadable, error));
+    }
+    auto loaded = DecodeSave(file, name, game.state);
+    if (!loaded) {
+        game.desktop.ShowMessageBox(LoadError, "Chyba");
+        UnloadForm1(game);
+    }
+    game.state = std::move(*loaded);
+    RefreshInventoryList(game);
+    DescribeSector(game, game.state.CurrentSector, Output::Replace);
+}

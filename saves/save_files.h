@@ -1,0 +1,15 @@
+// The saved games, one file each in data/saves of the program folder. File trouble is thrown as GameError before anything has changed.
+#pragma once
+
+#include <string_view>
+
+#include "core/game.h"
+
+// Empties the System Panel and fills its list. A folder that cannot be read is told in a message box, the list then stays empty.
+void ListSaves(Game& game);
+
+// Replaces a game that was saved under the same name.
+void SaveGame(Game& game, std::string_view name);
+
+// Ends the program when the file holds a game that was saved under another name.
+void LoadGame(Game& game, std::string_view name);

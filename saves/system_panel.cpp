@@ -1,0 +1,74 @@
+#include "saves/system_panel.h"
+
+#include <algorithm>
+#include <string>
+
+#include "saves/save_files.h"
+#include "text/characters.h"
+#include "ui/input.h"
+
+namespace {
+
+constexpr std::string_view ForbiddenCharacters = ".,:;\"'&#$?*";
+constexpr std::int16_t LoadVerb = 9;  // any other one saves
+
+// Refuses without a word; a save or load that fails throws and so leaves the panel open.
+void ReadCom(Game& game) {
+    ui::SystemWindow& panel = game.windows.Form4;
+    const std::string name = panel.Text1.Text();
+    if (name.find_first_of(ForbiddenCharacters) != std::string::npos) return;
+    if (text::LowerAscii(name) == "exit") return ui::Hide(panel.Window);
+
+    if (game.state.CommandVerb == LoadVerb) {
+        const auto& saves = panel.List1.Entries();
+        if (std::ranges::find(saves, name) == saves.end()) return;
+        LoadGame(game, name);
+    } else {
+        SaveGame(game, name);
+    }
+    panel.Text1.SetText("");
+    panel.Label1.SetTextColour(ui::Teal);
+    ui::Hide(panel.Window);
+}
+
+bool Text1_KeyPress(Game& game, char32_t key) {
+    if (key != ui::key::Enter) return false;
+    ReadCom(game);
+    return true;
+}
+
+void Text1_Change(Game& game) {
+    game.windows.Form4.Label1.SetTextColour(ui::PaleCyan);
+}
+
+void Text1_GotFocus(Game& game) {
+    game.windows.Form4.Text1.SetCaretShape({.Width = 1, .Height = 7});
+}
+
+void List1_Click(Game& game) {
+    ui::SystemWindow& panel = game.windows.Form4;
+    panel.Text1.SetText(panel.List1.SelectedEntry());
+    panel.Text1.MoveCaretToEnd();
+}
+
+// The list has the focus when the panel opens: the player types the name all the same.
+bool List1_KeyPress(Game& game, char32_t key) {
+    ui::PressKey(game.windows, game.windows.Form4.Text1, key);
+    return true;
+}
+
+void Label2_Click(Game& game) {
+    ReadCom(game);
+}
+
+}  // namespace
+
+void ConnectForm4(Game& game) {
+    ui::SystemWindow& panel = game.windows.Form4;
+    panel.List1.Click = [&game] { List1_Click(game); };
+    panel.List1.KeyPress = [&game](char32_t key) { return List1_KeyPress(game, key); };
+    panel.Text1.GotFocus = [&game] { Text1_GotFocus(game); };
+    panel.Text1.Change = [&game] { Text1_Change(game); };
+    panel.Text1.KeyPress = [&game](char32_t key) { return Text1_KeyPress(game, key); };
+    panel.Label2.Click = [&game] { Label2_Click(game); };
+}
