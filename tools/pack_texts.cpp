@@ -52,8 +52,9 @@ std::size_t LeadingNumber(std::string_view& line) {
     std::size_t number = 0;
     const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
     line.remove_prefix(static_cast<std::size_t>(end - line.data()));
-    if (error != std::errc{} || !line.starts_with(": ")) throw PackingError("expected \"NUMBER: TEXT\", a comment or an empty line");
-    line.remove_prefix(2);
+    const bool wellFormed = error == std::errc{} && (line == ":" || line.starts_with(": "));
+    if (!wellFormed) throw PackingError("expected \"NUMBER: TEXT\", a comment or an empty line");
+    line.remove_prefix(std::min<std::size_t>(line.size(), 2));
     return number;
 }
 
