@@ -20,6 +20,8 @@ struct CaretShape {
     int Width, Height;  // pixels
 };
 
+constexpr CaretShape InputCaret{1, 7};  // of all input boxes
+
 // Lines are separated by CR LF. The caret is a byte position in the UTF-8 text.
 class TextBox {
 public:

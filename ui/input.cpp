@@ -52,7 +52,7 @@ void GiveFocus(Windows& windows, ListBox& list) {
 }
 
 void GiveFocus(Windows& windows, Form& form) {
-    if (windows.Active == &form) return;
+    if (windows.Active == &form || !form.Visible) return;
     windows.Active = &form;
     if (!form.Focused) form.Focused = FirstThatTakesFocus(form);
     if (form.GotFocus) form.GotFocus();

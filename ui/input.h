@@ -12,7 +12,7 @@ enum : char32_t { Backspace = 8, Enter = 13, Escape = 27 };
 
 void GiveFocus(Windows& windows, TextBox& box);
 void GiveFocus(Windows& windows, ListBox& list);
-void GiveFocus(Windows& windows, Form& form);
+void GiveFocus(Windows& windows, Form& form);  // a hidden form takes none
 
 // Whether the control can have the focus at all: a visible text box or a list.
 bool TakesFocus(const Control& control);
