@@ -1,0 +1,12 @@
+// The terminal's replies.
+#pragma once
+
+#include <string_view>
+
+#include "core/game.h"
+
+// Appends a reply as a paragraph of its own; the caret stays where it is.
+void GetText(Game& game, std::string_view reply);
+
+// Appends the error line and what is wrong.
+void ReplyError(Game& game, std::string_view reason);
