@@ -1,0 +1,20 @@
+// The ship's doors, a row for each side: opening one from a side makes that side's exit passable and leaves the other side as it is.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "core/game_state.h"
+
+struct DoorSide {
+    Item Side;
+    Boolean GameState::*Open;
+    std::int16_t Sector;
+    Boolean SectorRecord::*Exit;
+    Boolean GameState::*Unlocked;  // null: it has no lock
+    std::string_view Opened, Closed;
+    std::string_view AlreadyOpen = "Dveře jsou již otevřené!";
+    std::string_view AlreadyClosed = "Dveře jsou již zavřené!";
+};
+
+std::span<const DoorSide> DoorSides();

@@ -1,0 +1,47 @@
+#include "core/carrying.h"
+#include "interactions/use_cases.h"
+
+void TakeShower(Game& game) {
+    enum : TextNumber { FeelsHuman = 55, RationUsedUp = 56 };
+    if (game.state.ShowerUsed != False) return Tell(game, RationUsedUp);
+    Tell(game, FeelsHuman);
+    game.state.ShowerUsed = True;
+}
+
+void TakeMeal(Game& game) {
+    enum : TextNumber { OnePortionAShift = 81, Meal = 82 };
+    if (game.state.HatchUsed == True) return Tell(game, OnePortionAShift);
+    game.state.HatchUsed = True;
+    Tell(game, Meal);
+}
+
+void GiveNewspaper(Game& game) {
+    Tell(game, 147);
+    game.state.NewspaperGiven = True;
+    RemoveFromInventory(game, Item::Newspaper);
+}
+
+void ShowAuthorisation(Game& game) {
+    GameState& state = game.state;
+    Tell(game, 153);
+    // The guard leads him in himself, so no door is asked and no step event waits.
+    state.PlayerX = 1;
+    state.PlayerY = 2;
+    state.CurrentSector = FindSector(state.Sectors, state.PlayerX, state.PlayerY);
+    RefreshSector(game);
+    if (state.TechnicianCalled != False) return;
+    AddItemToSector(game, sector::Crossing, Item::Technician, Redraw::No);
+    state.TechnicianCalled = True;
+}
+
+void GivePlans(Game& game) {
+    Tell(game, 173);
+    RemoveFromInventory(game, Item::Plans);
+}
+
+void ReturnDocuments(Game& game, Item documents, Boolean& taken) {
+    WriteOutput(game, "Vrátil jsi dokumenty zpět do stolu na své místo.");
+    RemoveFromInventory(game, documents);
+    taken = False;
+    RefreshSector(game);
+}
