@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/verbs.h"
 #include "saves/save_files.h"
 #include "text/characters.h"
 #include "ui/input.h"
@@ -10,7 +11,6 @@
 namespace {
 
 constexpr std::string_view ForbiddenCharacters = ".,:;\"'&#$?*";
-constexpr std::int16_t LoadVerb = 9;  // any other one saves
 
 // Refuses without a word; a save or load that fails throws and so leaves the panel open.
 void ReadCom(Game& game) {
@@ -19,7 +19,7 @@ void ReadCom(Game& game) {
     if (name.find_first_of(ForbiddenCharacters) != std::string::npos) return;
     if (text::LowerAscii(name) == "exit") return ui::Hide(panel.Window);
 
-    if (game.state.CommandVerb == LoadVerb) {
+    if (game.state.CommandVerb == verb::Load) {
         const auto& saves = panel.List1.Entries();
         if (std::ranges::find(saves, name) == saves.end()) return;
         LoadGame(game, name);
