@@ -2,8 +2,8 @@
 
 #include "core/stages.h"
 #include "interactions/answers.h"
-#include "interactions/containers.h"
 #include "interactions/doors.h"
+#include "interactions/receptacles.h"
 #include "interactions/verbs.h"
 
 namespace {
@@ -76,38 +76,36 @@ void OpenOldDoor(Game& game) {
         state.ContainerStoryState = ContainerStage::Found;
         Tell(game, ContainerFound);
     }
-    Place(game, Item::Container);
+    Place(game, Container);
 }
 
 void CloseOldDoor(Game& game) {
     if (game.state.OldDoorOpen == False) return WriteOutput(game, "Dveře jsou již zavřené!");
     game.state.OldDoorOpen = False;
     WriteOutput(game, "Zavřel jsi dveře...");
-    Remove(game, Item::Container);
+    Remove(game, Container);
 }
 
-void OpenContainer(Game& game, const struct Container& container) {
-    if (game.state.*container.Open == True) return WriteOutput(game, container.AlreadyOpen);
-    game.state.*container.Open = True;
-    WriteOutput(game, container.Opened);
+void OpenReceptacle(Game& game, const Receptacle& receptacle) {
+    if (game.state.*receptacle.Open == True) return WriteOutput(game, receptacle.AlreadyOpen);
+    game.state.*receptacle.Open = True;
+    WriteOutput(game, receptacle.Opened);
 }
 
-// What was found inside but not taken is out of sight again.
-void HideContents(Game& game, Item container) {
-    if (container == CabinWardrobe) {
+// What was found inside but not taken is out of sight again. The view is shown even when nothing was found.
+void HideContents(Game& game, Item receptacle) {
+    if (receptacle == CabinWardrobe) {
         game.state.UniformPlaced = False;
-        if (HoldsItem(game.state.Sectors[sector::Cabin], Uniform)) RemoveItemFromSector(game, sector::Cabin, Uniform, Redraw::Yes);
+        RemoveItemFromSector(game, sector::Cabin, Uniform, Redraw::Yes);
     }
-    if (container == OfficeWardrobe && game.state.OperatingTerminalTaken == False && IsInCurrentSector(game.state, OperatingTerminal)) {
-        Remove(game, OperatingTerminal);
-    }
+    if (receptacle == OfficeWardrobe && game.state.OperatingTerminalTaken == False) Remove(game, OperatingTerminal);
 }
 
-void CloseContainer(Game& game, const struct Container& container) {
-    if (game.state.*container.Open == False) return WriteOutput(game, container.AlreadyClosed);
-    game.state.*container.Open = False;
-    WriteOutput(game, container.Closed);
-    HideContents(game, container.Thing);
+void CloseReceptacle(Game& game, const Receptacle& receptacle) {
+    if (game.state.*receptacle.Open == False) return WriteOutput(game, receptacle.AlreadyClosed);
+    game.state.*receptacle.Open = False;
+    WriteOutput(game, receptacle.Closed);
+    HideContents(game, receptacle.Thing);
 }
 
 const DoorSide* FindDoor(Item item) {
@@ -115,9 +113,9 @@ const DoorSide* FindDoor(Item item) {
     return door == DoorSides().end() ? nullptr : &*door;
 }
 
-const struct Container* FindContainer(Item item) {
-    const auto container = std::ranges::find(Containers(), item, &Container::Thing);
-    return container == Containers().end() ? nullptr : &*container;
+const Receptacle* FindReceptacle(Item item) {
+    const auto found = std::ranges::find(Receptacles(), item, &Receptacle::Thing);
+    return found == Receptacles().end() ? nullptr : &*found;
 }
 
 }  // namespace
@@ -127,7 +125,7 @@ void DoOpen(Game& game, Item item) {
     if (item == OldDoor) return OpenOldDoor(game);
     if (const auto objection = WhyNotOpened(game.state, item)) return Tell(game, *objection);
     if (const DoorSide* door = FindDoor(item)) return OpenDoor(game, *door);
-    if (const auto* container = FindContainer(item)) return OpenContainer(game, *container);
+    if (const Receptacle* receptacle = FindReceptacle(item)) return OpenReceptacle(game, *receptacle);
     WriteOutput(game, "Toto se nedá otevřít!");
 }
 
@@ -135,6 +133,6 @@ void DoClose(Game& game, Item item) {
     if (item == DiningHallDoorOutside || item == DiningHallDoorInside) return Tell(game, SlidesByItself);
     if (item == OldDoor) return CloseOldDoor(game);
     if (const DoorSide* door = FindDoor(item)) return CloseDoor(game, *door);
-    if (const auto* container = FindContainer(item)) return CloseContainer(game, *container);
+    if (const Receptacle* receptacle = FindReceptacle(item)) return CloseReceptacle(game, *receptacle);
     WriteOutput(game, "Toto se nedá zavřít!");
 }

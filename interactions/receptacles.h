@@ -6,7 +6,7 @@
 
 #include "core/game_state.h"
 
-struct Container {
+struct Receptacle {
     Item Thing;
     Boolean GameState::*Open;
     std::string_view Opened = "Otevřel jsi skříň...";
@@ -15,4 +15,4 @@ struct Container {
     std::string_view AlreadyClosed = "Skříň je již zavřená!";
 };
 
-std::span<const Container> Containers();
+std::span<const Receptacle> Receptacles();

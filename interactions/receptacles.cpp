@@ -1,8 +1,8 @@
-#include "interactions/containers.h"
+#include "interactions/receptacles.h"
 
 namespace {
 
-constexpr auto All = std::to_array<Container>({
+constexpr auto All = std::to_array<Receptacle>({
     {Item::CabinWardrobe, &GameState::CabinWardrobeOpen},
     {Item::BathroomCupboard, &GameState::CupboardOpen, "Otevřel jsi skříňku...", "Zavřel jsi skříňku...", "Skříňka je již otevřená!",
      "Skříňka je již zavřená!"},
@@ -15,6 +15,6 @@ constexpr auto All = std::to_array<Container>({
 
 }  // namespace
 
-std::span<const Container> Containers() {
+std::span<const Receptacle> Receptacles() {
     return All;
 }
