@@ -1,0 +1,98 @@
+// A game over the desktop without a screen, with the real texts, in a program folder of its own, and the words of its player.
+// A word clicks the real lists and presses Enter; what no player could do fails the test.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "core/game.h"
+#include "ui/memory_desktop.h"
+
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path Path;
+};
+
+class Play {
+public:
+    Play();  // at the title
+
+    // In the middle of the story; the carried things are taken from where they lie.
+    static Play In(std::int16_t sector, std::initializer_list<Item> carried = {}) { return {sector, carried}; }
+    static Play InCabin(std::initializer_list<Item> carried = {}) { return In(sector::Cabin, carried); }
+
+    // The player's words.
+    void Proceed();  // Enter in the command line
+    void Go(std::string_view direction);
+    void Examine(Item item);
+    void Use(Item item, Item target);
+    void Take(Item item);
+    void Put(Item item);
+    void Open(Item item);
+    void Close(Item item);
+    void Talk(Item item);
+    void Clear();
+    void Choose(std::int16_t verb);  // without Enter
+    void ChooseObject(Item item);    // one that he sees or carries
+    void ChooseTarget(Item target);
+
+    // What he will type into the next panel, a line and Enter each; "Cancel" turns away from the keypad.
+    void InPanel(std::initializer_list<std::string> lines);
+    void Draws(std::initializer_list<double> numbers) { drawn.assign(numbers); }
+
+    // What the last command appended to the output box, or all that it holds when the command replaced it: its paragraphs, the last of
+    // them, and the numbers of its story texts; a view has the number of its sector, any other message counts as 0.
+    std::vector<std::string> Said() const;
+    std::string LastSaid() const;
+    std::vector<int> Told() const;
+
+    std::vector<std::string> Replies() const;  // of the terminal since it was started
+    std::vector<std::string> Exits();          // as the list of directions offers them
+    bool Sees(Item item) const;
+    bool Carries(Item item) const;
+    bool Lies(Item item, std::int16_t sector) const;
+    const std::string& Output() const { return Form1().Text1.Text(); }
+    std::string View();  // of the current sector, which clears the output box
+    std::string Text(TextNumber number) const { return std::string(game.texts.Text(number).value()); }
+    bool Ended() const { return !desktop.Running(); }
+
+    void Place(Item item, std::int16_t sector);  // moves it there from wherever it is
+    void MoveTo(std::int16_t sector);            // without a step
+    GameState& State() { return game.state; }
+    Game& TheGame() { return game; }
+    ui::MainWindow& Form1() { return windows.Form1; }
+    const ui::MainWindow& Form1() const { return windows.Form1; }
+    ui::Windows& Windows() { return windows; }
+    ui::MemoryDesktop& Desktop() { return desktop; }
+    const std::filesystem::path& Folder() const { return folder.Path; }
+
+    // For events that a player may try: nothing may refuse them.
+    void Click(const ui::Form& form, ui::ListBox& list, int index);
+    void Type(const ui::Form& form, ui::TextBox& box, std::string_view characters);
+    void Press(const ui::Form& form, ui::TextBox& box, char32_t key);
+
+private:
+    Play(std::int16_t sector, std::initializer_list<Item> carried);
+
+    void Run(std::int16_t verb, Item item);
+    bool PlayNextLine();
+
+    TemporaryFolder folder;
+    ui::Windows windows;
+    ui::MemoryDesktop desktop{windows};
+    std::deque<double> drawn;
+    std::deque<std::string> lines;
+    Game game;
+    std::string before;  // the output box before the last command
+};
