@@ -1,0 +1,117 @@
+#include <gmock/gmock.h>
+
+#include "ui/input.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+// The keypad's entry takes what is typed; the terminal's output and the command line are read-only.
+struct TypedText : testing::Test {
+    void Type(std::u32string_view keys) {
+        for (const char32_t key : keys) ui::PressKey(windows, box, key);
+    }
+
+    ui::Windows windows;
+    ui::TextBox& box = windows.Form3.Text1;
+};
+
+TEST_F(TypedText, GoesInAtTheCaret) {
+    Type(U"šek");
+    box.EditText(box.Text(), std::string_view("š").size());
+    Type(U"ál");
+    EXPECT_EQ(box.Text(), "šálek");
+    Type(U"\b\b\b\b");
+    EXPECT_EQ(box.Text(), "ek");
+    EXPECT_EQ(box.Caret(), 0);
+}
+
+TEST_F(TypedText, ShowsForeignCharactersAsQuestionMarks) {
+    Type(U"a☀😀č");
+    EXPECT_EQ(box.Text(), "a??č");
+    box.EditText("ñandu ž", std::string_view("ñan").size());
+    EXPECT_EQ(box.Text(), "?andu ž");
+    EXPECT_EQ(box.Caret(), std::string_view("?an").size());
+}
+
+TEST_F(TypedText, LeavesOutControlCharacters) {
+    Type(U"1\t\x1B\n2");
+    EXPECT_EQ(box.Text(), "12");
+}
+
+TEST_F(TypedText, ReachesNoReadOnlyBoxButItsKeysAreHeard) {
+    std::vector<int> heard;
+    ui::TextBox& line = windows.Form1.Text2;
+    line.SetText("Jdi");
+    line.KeyDown = [&](int keyCode) { heard.push_back(keyCode); };
+    for (const char32_t key : {U'x', U'\b'}) ui::PressKey(windows, line, key);
+    EXPECT_EQ(line.Text(), "Jdi");
+    EXPECT_THAT(heard, ElementsAre('x', 8));
+}
+
+TEST_F(TypedText, IsAnnouncedBeforeItChangesTheBox) {
+    std::vector<std::string> events;
+    box.KeyDown = [&](int) { events.push_back("down:" + box.Text()); };
+    box.KeyPress = [&](char32_t key) {
+        events.push_back("press:" + box.Text());
+        return key == U'x';
+    };
+    box.Change = [&] { events.push_back("change:" + box.Text()); };
+    Type(U"ax");
+    EXPECT_THAT(events, ElementsAre("down:", "press:", "change:a", "down:a", "press:a"));
+}
+
+TEST(TextBox, TellsOfAChangeOnlyWhenTheTextDiffers) {
+    ui::Windows windows;
+    ui::TextBox& box = windows.Form1.Text2;
+    int changes = 0;
+    box.Change = [&] { ++changes; };
+    box.SetText("");
+    box.AppendText("");
+    EXPECT_EQ(changes, 0);
+    box.SetText("Jdi");
+    box.SetText("Jdi");
+    box.AppendText(" na sever");
+    box.MoveCaretToEnd();
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(TextBox, CountsReplacementsApartFromAppending) {
+    ui::Windows windows;
+    ui::TextBox& box = windows.Form1.Text1;
+    box.SetText("a\r\nb");
+    const auto replaced = box.Replacements();
+    const auto changed = box.Changes();
+    box.AppendText("\r\nc\r\n");
+    EXPECT_EQ(box.Replacements(), replaced);
+    EXPECT_GT(box.Changes(), changed);
+    EXPECT_EQ(box.LineBreaks(), 3);
+    box.SetText("d");
+    EXPECT_GT(box.Replacements(), replaced);
+    EXPECT_EQ(box.LineBreaks(), 0);
+}
+
+TEST(ListBox, ForgetsItsSelectionWhenItIsCleared) {
+    ui::Windows windows;
+    ui::ListBox& verbs = windows.Form1.List2[0];
+    EXPECT_EQ(verbs.SelectedEntry(), "");
+    verbs.Select(3);
+    EXPECT_EQ(verbs.SelectedEntry(), "Vezmi");
+    verbs.Clear();
+    verbs.Append("Jdi");
+    EXPECT_EQ(verbs.Selected(), -1);
+    EXPECT_EQ(verbs.Entry(1), "");
+}
+
+TEST(ListBox, TakesTheFocusThenTheSelectionThenTheClick) {
+    ui::Windows windows;
+    ui::ListBox& list = windows.Form1.List1;
+    std::vector<std::string> events;
+    list.GotFocus = [&] { events.push_back("focus " + std::to_string(list.Selected())); };
+    list.Click = [&] { events.push_back("click " + std::to_string(list.Selected())); };
+    ui::ClickEntry(windows, list, 0);
+    ui::ClickEntry(windows, list, 0);
+    EXPECT_THAT(events, ElementsAre("focus -1", "click 0", "click 0"));
+}
+
+}  // namespace

@@ -1,0 +1,94 @@
+#include "ui/memory_desktop.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/play.h"
+#include "ui/errors.h"
+#include "ui/input.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::Optional;
+
+TEST(Focus, ReturnsToTheCommandLineFromEverywhere) {
+    Play play = Play::InCabin();
+    const ui::Control commandLine = &play.Form1().Text2;
+    for (const ui::Control& control : play.Form1().Window.Controls) {
+        if (!ui::TakesFocus(control)) continue;
+        EXPECT_EQ(play.Desktop().Focus(play.Form1().Window, control), std::nullopt);
+        EXPECT_THAT(play.Form1().Window.Focused, Optional(commandLine));
+    }
+    EXPECT_EQ(play.Desktop().Focus(play.Windows().Form5.Window), std::nullopt);
+    EXPECT_EQ(play.Windows().Active, &play.Form1().Window);
+    EXPECT_EQ(play.Form1().Text2.Shape()->Height, 7);
+}
+
+TEST(Focus, GoesToThePanelAndBack) {
+    Play play = Play::InCabin();
+    std::vector<std::string_view> active;
+    play.Desktop().NextEvent = [&] {
+        ui::TerminalWindow& form = play.Windows().Form2;
+        EXPECT_EQ(play.Desktop().Focus(form.Window, &form.Text1), std::nullopt);
+        EXPECT_THAT(form.Window.Focused, Optional(ui::Control(&form.Text2)));
+        active.push_back(play.Windows().Active->Layout.Name);
+        play.Type(form.Window, form.Text2, "exit\r");
+        return true;
+    };
+    play.Use(Item::CabinTerminal, Item::Self);
+    active.push_back(play.Windows().Active->Layout.Name);
+    EXPECT_THAT(active, ElementsAre("Form2", "Form1"));
+}
+
+TEST(ModalPanel, KeepsTheOtherWindowsFromInput) {
+    Play play = Play::InCabin();
+    ui::MainWindow& form = play.Form1();
+    EXPECT_THAT(play.Desktop().PressKey(play.Windows().Form2.Window, play.Windows().Form2.Text2, U'a'),
+                Optional(std::string("Form2 is hidden")));
+    play.Desktop().NextEvent = [&] {
+        EXPECT_THAT(play.Desktop().ClickEntry(form.Window, form.List2[0], 0), Optional(std::string("Form2 is modal")));
+        EXPECT_THAT(play.Desktop().Close(form.Window), Optional(std::string("Form2 is modal")));
+        play.Type(play.Windows().Form2.Window, play.Windows().Form2.Text2, "EXIT\r");
+        return true;
+    };
+    play.Use(Item::CabinTerminal, Item::Self);
+    EXPECT_FALSE(play.Ended());
+    EXPECT_EQ(play.Desktop().Modal(), nullptr);
+    EXPECT_TRUE(form.Text2.Text().empty());
+}
+
+TEST(ModalPanel, EndsTheProgramWhereTheScriptRunsDry) {
+    Play play = Play::InCabin();
+    play.InPanel({"mj-perolax"});
+    play.Use(Item::CabinTerminal, Item::Self);
+    EXPECT_TRUE(play.Ended());
+    EXPECT_TRUE(play.Desktop().RanDry());
+    EXPECT_TRUE(play.Windows().Form2.Window.Visible);
+    EXPECT_EQ(play.Form1().Text2.Text(), "Použij terminál na sebe");  // the command never came back
+    EXPECT_THAT(play.Desktop().ClickLabel(play.Form1().Window, play.Form1().Label1), Optional(std::string("the program has ended")));
+}
+
+TEST(ModalPanel, EndsTheProgramAtOnceWhenTheGameIsUnloadedInside) {
+    Play play = Play::InCabin();
+    play.Desktop().NextEvent = [&] {
+        play.Desktop().RunEvent(play.Form1().Window.CloseBox);
+        return true;
+    };
+    play.Use(Item::CabinTerminal, Item::Self);
+    EXPECT_TRUE(play.Ended());
+    EXPECT_FALSE(play.Desktop().RanDry());
+    for (const ui::Form* form : play.Windows().All) EXPECT_FALSE(form->Visible) << form->Layout.Name;
+    EXPECT_EQ(play.State().CommandObject, NumberOf(Item::CabinTerminal));
+}
+
+TEST(Event, ThatAFileSpoiledIsToldAndTheGameGoesOn) {
+    Play play = Play::InCabin();
+    play.Desktop().RunEvent([] { throw ui::GameError("Disk je plný."); });
+    const auto boxes = play.Desktop().TakeMessageBoxes();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].Text, "Disk je plný.");
+    play.Clear();
+    EXPECT_FALSE(play.Ended());
+}
+
+}  // namespace
