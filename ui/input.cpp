@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <iterator>
 
 #include "text/characters.h"
 
@@ -64,6 +65,18 @@ void GiveFocus(Windows& windows, Form& form) {
 bool TakesFocus(const Control& control) {
     if (auto* const* box = std::get_if<TextBox*>(&control)) return (*box)->Visible();
     return std::holds_alternative<ListBox*>(control);
+}
+
+void WalkTabOrder(Windows& windows, Form& form, bool forward) {
+    std::vector<Control> order;
+    std::ranges::copy_if(form.Controls, std::back_inserter(order), TakesFocus);
+    if (!forward) std::ranges::reverse(order);
+    const auto here = form.Focused ? std::ranges::find(order, *form.Focused) : order.end();
+    if (here == order.end()) return;
+    std::ranges::rotate(order, here);
+    const Control next = order[order.size() > 1 ? 1 : 0];
+    if (auto* const* box = std::get_if<TextBox*>(&next)) GiveFocus(windows, **box);
+    if (auto* const* list = std::get_if<ListBox*>(&next)) GiveFocus(windows, **list);
 }
 
 void Show(Windows& windows, Form& form) {

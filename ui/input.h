@@ -17,6 +17,9 @@ void GiveFocus(Windows& windows, Form& form);  // a hidden form takes none
 // Whether the control can have the focus at all: a visible text box or a list.
 bool TakesFocus(const Control& control);
 
+// Gives the focus to the next control in tab order that can have it, or to the one before; after the last comes the first.
+void WalkTabOrder(Windows& windows, Form& form, bool forward);
+
 void Show(Windows& windows, Form& form);
 void Hide(Form& form);
 
