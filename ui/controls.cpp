@@ -12,6 +12,12 @@ std::size_t CountLineBreaks(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count(text, '\n'));
 }
 
+// What a single line can show: a pasted line break or tab leaves no trace.
+std::string WithoutControlCharacters(std::string text) {
+    std::erase_if(text, [](unsigned char byte) { return byte < ' '; });
+    return text;
+}
+
 }  // namespace
 
 TextBox::TextBox(const ControlLayout& layout) : Layout(layout), visible(!layout.Hidden) {}
@@ -46,8 +52,9 @@ void TextBox::MoveCaretToEnd() {
 }
 
 void TextBox::EditText(std::string_view text, std::size_t caretByte) {
-    const std::string before = text::ReplaceForeignCharacters(text.substr(0, caretByte));
-    const std::string after = text::ReplaceForeignCharacters(text.substr(std::min(caretByte, text.size())));
+    const auto typed = [](std::string_view part) { return WithoutControlCharacters(text::ReplaceForeignCharacters(part)); };
+    const std::string before = typed(text.substr(0, caretByte));
+    const std::string after = typed(text.substr(std::min(caretByte, text.size())));
     Replace(before + after, before.size());
 }
 
