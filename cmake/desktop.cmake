@@ -2,7 +2,7 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
-orvel_library(ui/qt orvel_ui Qt6::Widgets)
+orvel_library(ui/qt orvel_ui Qt6::Widgets xcb)
 
 # Pictures are drawn at twice their window's size, to stay sharp on dense screens. The game knows them by names without an extension.
 function(orvel_picture name width height)

@@ -1,0 +1,55 @@
+#include "ui/qt/application.h"
+
+#include <xcb/xcb.h>
+
+#include <QProxyStyle>
+
+#include "ui/qt/accessible.h"
+
+namespace ui::qt {
+
+namespace {
+
+class Style final : public QProxyStyle {
+public:
+    Style() : QProxyStyle("Fusion") {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+            case PM_TextCursorWidth: return 0;  // the input boxes draw a caret of the game's own shape
+            case PM_ScrollBarExtent: return 16;
+            default: return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+bool CanConnectToX11() {
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool connected = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return connected;
+}
+
+}  // namespace
+
+std::optional<std::string> WhyNoScreen() {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return std::nullopt;
+    if (qEnvironmentVariableIsSet("DISPLAY") && CanConnectToX11()) {
+        // Where Wayland is offered as well: only X11 lets a program place, shape and raise its windows.
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        return std::nullopt;
+    }
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) return std::nullopt;
+    return "Hra potřebuje obrazovku, ale žádný displej (DISPLAY ani WAYLAND_DISPLAY) není dostupný. "
+           "Bez monitoru ji lze spustit na virtuálním displeji: xvfb-run ./play";
+}
+
+Application::Application(int& argumentCount, char** arguments) : application(argumentCount, arguments) {
+    QApplication::setStyle(new Style);
+    QApplication::setApplicationName("orvel-tavoren");
+    QGuiApplication::setDesktopFileName("orvel-tavoren");
+    QApplication::setQuitOnLastWindowClosed(false);
+    InstallAccessibility();
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,136 @@
+#include "ui/qt/form_widget.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+#include "ui/input.h"
+#include "ui/qt/look.h"
+#include "ui/qt/picture.h"
+#include "ui/qt/region.h"
+
+namespace ui::qt {
+
+namespace {
+
+Qt::WindowFlags FlagsOf(const Form& form) {
+    Qt::WindowFlags flags = Qt::Window | Qt::CustomizeWindowHint;
+    flags |= form.Layout.Framed ? Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint
+                                : Qt::FramelessWindowHint;
+    if (form.Layout.Backdrop) flags |= Qt::WindowStaysOnBottomHint;
+    if (form.AlwaysOnTop) flags |= Qt::WindowStaysOnTopHint;
+    return flags;
+}
+
+}  // namespace
+
+FormWidget::FormWidget(const Entrance& door, Form& mirrored) : QWidget(nullptr, FlagsOf(mirrored)), entrance(door), form(mirrored) {
+    setWindowTitle(ToQt(form.Layout.Caption));
+    setAccessibleName(windowTitle());
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    if (!form.Layout.Backdrop) setFixedSize(form.Layout.Width / TwipsPerPixel, form.Layout.Height / TwipsPerPixel);
+    for (const Control& control : form.Controls) controls.push_back(MakeWidget(control));
+}
+
+FormWidget::ControlWidget FormWidget::MakeWidget(const Control& control) {
+    if (auto* const* list = std::get_if<ListBox*>(&control)) return new EntryList(entrance, **list, this);
+    if (auto* const* label = std::get_if<Label*>(&control)) return new LabelArea(entrance, **label, this);
+    TextBox& box = *std::get<TextBox*>(control);
+    if (box.Layout.MultiLine) return new OutputView(entrance, box, this);
+    return new InputLine(entrance, box, this);
+}
+
+QWidget* FormWidget::WidgetOf(const Control& control) const {
+    const auto place = std::ranges::find(form.Controls, control) - form.Controls.begin();
+    return std::visit([](auto* widget) -> QWidget* { return widget; }, controls.at(static_cast<std::size_t>(place)));
+}
+
+void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
+    setEnabled(reachable);
+    MirrorLook();
+    for (const ControlWidget& control : controls) std::visit([](auto* widget) { widget->Mirror(); }, control);
+    if (form.Visible && !isVisible()) Place(owner);
+    setVisible(form.Visible);
+}
+
+void FormWidget::MirrorLook() {
+    if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.AlwaysOnTop) setWindowFlag(Qt::WindowStaysOnTopHint, form.AlwaysOnTop);
+    if (form.Region && mask().isEmpty()) setMask(ClientRegion(*form.Region, size()));
+    if (mirroredPicture != form.Picture) update();
+}
+
+void FormWidget::Place(const FormWidget* owner) {
+    const QRect screenArea = screen()->geometry();
+    if (form.Layout.Backdrop) return setGeometry(screenArea);
+    QRect place(QPoint(), size());
+    place.moveCenter(owner == nullptr ? screenArea.center() : owner->geometry().center());
+    setGeometry(place);
+    if (owner == nullptr) return;
+    winId();  // makes the window, which is hidden as yet
+    windowHandle()->setTransientParent(owner->windowHandle());
+}
+
+void FormWidget::MirrorFocus() {
+    if (form.Focused) WidgetOf(*form.Focused)->setFocus();
+    if (!isActiveWindow()) {
+        raise();
+        activateWindow();
+    }
+}
+
+void FormWidget::TakeFocus() {
+    entrance.Enter([this] {
+        if (isEnabled()) GiveFocus(entrance.Model, form);
+    });
+}
+
+bool FormWidget::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate) TakeFocus();
+    return handled;
+}
+
+void FormWidget::mousePressEvent(QMouseEvent*) {
+    TakeFocus();
+}
+
+void FormWidget::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (form.CloseBox) entrance.Enter([this] { form.CloseBox(); });
+}
+
+void FormWidget::keyPressEvent(QKeyEvent* event) {
+    if (!event->matches(QKeySequence::Copy)) return event->ignore();
+    for (const ControlWidget& control : controls) {
+        if (auto* const* view = std::get_if<OutputView*>(&control)) (*view)->copy();
+    }
+}
+
+bool FormWidget::focusNextPrevChild(bool next) {
+    entrance.Enter([this, next] { WalkTabOrder(entrance.Model, form, next); });
+    return true;
+}
+
+void FormWidget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    LoadBackground();
+    if (background.isNull()) return painter.fillRect(rect(), ToQt(form.Layout.Background));
+    painter.drawPixmap(0, 0, background);
+}
+
+// Not before it is painted: most panels are not opened for a long time.
+void FormWidget::LoadBackground() {
+    if (mirroredPicture != form.Picture) {
+        mirroredPicture = form.Picture;
+        picture = LoadPicture(form.Picture);
+        background = {};
+    }
+    const qreal density = devicePixelRatio();
+    if (picture.isNull() || (!background.isNull() && background.devicePixelRatio() == density)) return;
+    background = ScaledTo(picture, size(), density);
+}
+
+}  // namespace ui::qt

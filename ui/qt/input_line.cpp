@@ -1,0 +1,120 @@
+#include "ui/qt/input_line.h"
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QPainter>
+#include <QStyleHints>
+
+#include "ui/input.h"
+#include "ui/qt/keys.h"
+#include "ui/qt/look.h"
+#include "ui/qt/text_menu.h"
+
+namespace ui::qt {
+
+InputLine::InputLine(const Entrance& door, TextBox& mirrored, QWidget* parent) : QLineEdit(parent), entrance(door), box(mirrored) {
+    setFrame(false);
+    setTextMargins(1, 0, 1, 0);
+    setPalette(PaletteOf(box.Layout));
+    setFont(ToQt(box.Layout.Font));
+    setAccessibleName(ToQt(box.Layout.Spoken));
+    setReadOnly(box.Layout.ReadOnly);
+    setFocusPolicy(Qt::ClickFocus);
+    setGeometry(Pixels(box.Layout.Bounds));
+    connect(this, &QLineEdit::textChanged, [this] { Report(); });
+    connect(this, &QLineEdit::cursorPositionChanged, [this] {
+        Report();
+        StartBlinking();
+    });
+}
+
+void InputLine::Mirror() {
+    if (mirroredChanges == box.Changes()) return;
+    mirroredChanges = box.Changes();
+    setVisible(box.Visible());
+    // A text or a place that already agrees is left alone: setting it would undo the player's selection.
+    if (const QString content = ToQt(box.Text()); content != text()) setText(content);
+    const auto before = ToQt(std::string_view(box.Text()).substr(0, box.Caret())).size();
+    if (before != cursorPosition()) setCursorPosition(static_cast<int>(before));
+    update();
+}
+
+QRect InputLine::CaretRect() const {
+    if (!box.Shape()) return {};
+    // Qt's rectangle reaches five pixels past the caret on its left.
+    const QRect place = cursorRect();
+    const int baseline = place.top() + fontMetrics().ascent();
+    return {place.left() + 5, baseline - box.Shape()->Height, box.Shape()->Width, box.Shape()->Height};
+}
+
+void InputLine::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    if (caretLit) painter.fillRect(CaretRect(), palette().text());
+    painter.setPen(BorderColour);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+bool InputLine::Announce(char32_t character) {
+    bool swallowed = true;  // so it stays when the announcement ends the game
+    entrance.Enter([&] { swallowed = AnnounceKey(box, character); });
+    return swallowed;
+}
+
+void InputLine::Report() {
+    const std::string content = FromQt(text());
+    const std::size_t caret = FromQt(text().left(cursorPosition())).size();
+    if (content == box.Text() && caret == box.Caret()) return;
+    entrance.Enter([&] { box.EditText(content, caret); });
+}
+
+void InputLine::keyPressEvent(QKeyEvent* event) {
+    // With nothing selected here, the copy key is meant for the output.
+    if (event->matches(QKeySequence::Copy) && !hasSelectedText()) return event->ignore();
+    const char32_t character = CharacterOf(*event);
+    if (character != 0 && Announce(character)) return;
+    QLineEdit::keyPressEvent(event);
+}
+
+void InputLine::inputMethodEvent(QInputMethodEvent* event) {
+    QString kept;
+    for (const char32_t character : event->commitString().toUcs4()) {
+        if (!Announce(character)) kept += QString::fromUcs4(&character, 1);
+    }
+    QInputMethodEvent passed(event->preeditString(), event->attributes());
+    passed.setCommitString(kept, event->replacementStart(), event->replacementLength());
+    QLineEdit::inputMethodEvent(&passed);
+}
+
+void InputLine::contextMenuEvent(QContextMenuEvent* event) {
+    PopUpTextMenu(*this, event->globalPos());
+}
+
+void InputLine::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    StartBlinking();
+    entrance.Enter([this] { GiveFocus(entrance.Model, box); });
+}
+
+void InputLine::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    blinking.stop();
+    caretLit = false;
+    update();
+}
+
+void InputLine::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != blinking.timerId()) return QLineEdit::timerEvent(event);
+    caretLit = !caretLit;
+    update();
+}
+
+void InputLine::StartBlinking() {
+    if (!hasFocus()) return;
+    caretLit = true;
+    update();
+    if (const int period = QGuiApplication::styleHints()->cursorFlashTime(); period > 0) blinking.start(period / 2, this);
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,68 @@
+#include "ui/qt/look.h"
+
+#include <QFontDatabase>
+#include <QStringList>
+#include <algorithm>
+
+namespace ui::qt {
+
+namespace {
+
+// Arial, or a face that runs exactly as wide, so that lines break where they would in Arial.
+const QString& TextFamily() {
+    static const QString family = [] {
+        for (const char* name : {"Arial", "Liberation Sans", "Arimo"}) {
+            if (HasFontFamily(name)) return QString(name);
+        }
+        return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    }();
+    return family;
+}
+
+}  // namespace
+
+bool HasFontFamily(std::string_view name) {
+    // Asking for the one family would answer for its substitute as well.
+    static const QStringList families = QFontDatabase::families();
+    // A family that several foundries offer is listed as "Family [Foundry]".
+    return std::ranges::any_of(families, [wanted = ToQt(name)](const QString& family) { return family.section(" [", 0, 0) == wanted; });
+}
+
+QRect Pixels(const Rect& twips) {
+    return {twips.Left / TwipsPerPixel, twips.Top / TwipsPerPixel, twips.Width / TwipsPerPixel, twips.Height / TwipsPerPixel};
+}
+
+QColor ToQt(Colour colour) {
+    return {colour.Red, colour.Green, colour.Blue};
+}
+
+QFont ToQt(const Font& font) {
+    QFont result(TextFamily());
+    result.setPixelSize(static_cast<int>(font.Points * 96 / 72));
+    result.setBold(font.Bold);
+    result.setItalic(font.Italic);
+    return result;
+}
+
+QPalette PaletteOf(const ControlLayout& layout) {
+    QPalette palette;
+    const QColor text = ToQt(layout.Text);
+    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) palette.setColor(role, text);
+    palette.setColor(QPalette::WindowText, BorderColour);
+    palette.setColor(QPalette::Base, ToQt(layout.Background.value_or(Black)));
+    palette.setColor(QPalette::Window, QColor(24, 32, 36));
+    palette.setColor(QPalette::Button, QColor(52, 66, 72));
+    palette.setColor(QPalette::Highlight, ToQt(Teal));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+QString ToQt(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+std::string FromQt(const QString& text) {
+    return text.toStdString();
+}
+
+}  // namespace ui::qt

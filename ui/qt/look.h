@@ -1,0 +1,32 @@
+// How the models' twips, points and colours come out in Qt: device-independent pixels, 96 to the inch.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QRect>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "ui/layouts.h"
+
+namespace ui::qt {
+
+constexpr int RowHeight = 16;  // of every list
+constexpr QColor BorderColour(0, 96, 96);
+
+// Whether a font family of exactly this name is installed.
+bool HasFontFamily(std::string_view name);
+
+QRect Pixels(const Rect& twips);
+QColor ToQt(Colour colour);
+QFont ToQt(const Font& font);
+
+// The control's colours, with scroll bars and selections to go with them.
+QPalette PaletteOf(const ControlLayout& layout);
+
+QString ToQt(std::string_view utf8);
+std::string FromQt(const QString& text);
+
+}  // namespace ui::qt

@@ -1,0 +1,111 @@
+#include "ui/qt/qt_desktop.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <algorithm>
+#include <ranges>
+#include <utility>
+
+#include "ui/errors.h"
+#include "ui/input.h"
+#include "ui/qt/look.h"
+
+namespace ui::qt {
+
+QtDesktop::QtDesktop(Windows& mirrored) : windows(mirrored), entrance{mirrored, [this](const auto& event) { Enter(event); }} {
+    std::ranges::transform(windows.All, forms.begin(), [this](Form* form) { return std::make_unique<FormWidget>(entrance, *form); });
+}
+
+QtDesktop::~QtDesktop() {
+    ended = true;  // the widgets' last events find nobody
+}
+
+void QtDesktop::Enter(const std::function<void()>& event) {
+    if (ended || mirroring) return;
+    std::string complaint;
+    try {
+        event();
+    } catch (const ProgramEnded&) {
+        ended = true;
+        if (!loops.empty()) loops.back()->quit();
+        return;
+    } catch (const GameError& error) {
+        complaint = error.what();
+    }
+    Mirror();
+    if (modal != nullptr && !modal->Visible) loops.back()->quit();
+    if (!complaint.empty()) ShowMessageBox(complaint, "Chyba");
+}
+
+void QtDesktop::Run() {
+    Mirror();
+    RunLoop();
+}
+
+void QtDesktop::RunLoop() {
+    if (ended) return;
+    QEventLoop loop;
+    loops.push_back(&loop);
+    loop.exec();
+    loops.pop_back();
+}
+
+void QtDesktop::ShowModal(Form& form) {
+    Form* const outer = std::exchange(modal, &form);
+    Form* const behind = windows.Active;
+    Show(windows, form);
+    Mirror();
+    if (form.Visible) RunLoop();
+    modal = outer;
+    if (ended) EndProcess();
+    if (behind != nullptr) GiveFocus(windows, *behind);
+}
+
+void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
+    Mirror();
+    QWidget* const owner = windows.Active != nullptr ? &WidgetOf(*windows.Active) : nullptr;
+    QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, owner);
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.exec();
+}
+
+std::size_t QtDesktop::CountLines(const TextBox& box) const {
+    for (const auto& form : forms) {
+        const auto control = std::ranges::find_if(form->Model().Controls, [&](const Control& each) {
+            auto* const* candidate = std::get_if<TextBox*>(&each);
+            return candidate != nullptr && *candidate == &box;
+        });
+        if (control == form->Model().Controls.end()) continue;
+        if (auto* view = dynamic_cast<OutputView*>(form->WidgetOf(*control))) return view->CountLines();
+    }
+    return 1;
+}
+
+bool QtDesktop::HasFontFamily(std::string_view name) const {
+    return qt::HasFontFamily(name);
+}
+
+FormWidget& QtDesktop::WidgetOf(const Form& form) const {
+    return **std::ranges::find_if(forms, [&](const auto& each) { return &each->Model() == &form; });
+}
+
+void QtDesktop::Mirror() {
+    mirroring = true;
+    FormWidget& main = WidgetOf(windows.Form1.Window);
+    // From the backdrop forward, so that each window opens above the ones behind it.
+    for (const auto& form : forms | std::views::reverse) {
+        const bool panel = !form->Model().Layout.Framed && !form->Model().Layout.Backdrop;
+        form->Mirror(modal == nullptr || modal == &form->Model(), panel ? &main : nullptr);
+    }
+    MirrorPointer();
+    if (windows.Active != nullptr && windows.Active->Visible) WidgetOf(*windows.Active).MirrorFocus();
+    mirroring = false;
+}
+
+void QtDesktop::MirrorPointer() {
+    const bool busy = QGuiApplication::overrideCursor() != nullptr;
+    if (windows.BusyPointer && !busy) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!windows.BusyPointer && busy) QGuiApplication::restoreOverrideCursor();
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,48 @@
+// The desktop on a real screen: mirrors the windows' models in Qt widgets. There is one Application first.
+#pragma once
+
+#include <QEventLoop>
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "ui/desktop.h"
+#include "ui/qt/form_widget.h"
+#include "ui/windows.h"
+
+namespace ui::qt {
+
+class QtDesktop final : public Desktop {
+public:
+    explicit QtDesktop(Windows& mirrored);
+    ~QtDesktop() override;
+
+    // Shows the windows and plays until the program ends.
+    void Run();
+
+    bool HasFontFamily(std::string_view name) const override;
+    void ShowMessageBox(std::string_view text, std::string_view title) override;
+    void ShowModal(Form& form) override;
+    std::size_t CountLines(const TextBox& box) const override;
+
+    // The entrance of every event of Qt. Once the program has ended there are no events any more.
+    void Enter(const std::function<void()>& event);
+
+    FormWidget& WidgetOf(const Form& form) const;
+    bool Ended() const { return ended; }
+
+private:
+    void Mirror();
+    void MirrorPointer();
+    void RunLoop();
+
+    Windows& windows;
+    Entrance entrance;
+    std::array<std::unique_ptr<FormWidget>, 5> forms;
+    Form* modal = nullptr;
+    std::vector<QEventLoop*> loops;  // the innermost last
+    bool mirroring = false;
+    bool ended = false;
+};
+
+}  // namespace ui::qt
