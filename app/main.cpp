@@ -1,0 +1,43 @@
+// The game in its windows.
+#include <filesystem>
+#include <iostream>
+#include <string_view>
+
+#include "app/start_up.h"
+#include "ui/errors.h"
+#include "ui/qt/application.h"
+#include "ui/qt/qt_desktop.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The folder that the program was called in, so that a link to it may stand among a player's own data; a link that stands alone leads
+// to the program's real folder.
+fs::path ProgramFolder(std::string_view calledAs) {
+    const fs::path folder = fs::absolute(calledAs).parent_path();
+    if (calledAs.find('/') != std::string_view::npos && fs::exists(folder / "data")) return folder;
+    return fs::read_symlink("/proc/self/exe").parent_path();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (const auto reason = ui::qt::WhyNoScreen()) {
+        std::cerr << *reason << '\n';
+        return 1;
+    }
+    const fs::path folder = ProgramFolder(argv[0]);
+    const ui::qt::Application application(argc, argv);
+    ui::Windows windows;
+    ui::qt::QtDesktop desktop(windows);
+    Game game(windows, desktop, SeededRandom());
+    try {
+        Main(game, folder);
+    } catch (const ui::GameError& error) {
+        windows.BusyPointer = false;
+        desktop.ShowMessageBox(error.what(), "Chyba");
+        return 1;
+    }
+    desktop.Run();
+}
