@@ -100,7 +100,8 @@ void Play::Type(const ui::Form& form, ui::TextBox& box, std::string_view charact
 }
 
 void Play::Proceed() {
-    before = Output();
+    said = Output().size();
+    replacements = Form1().Text1.Replacements();
     Press(Form1().Window, Form1().Text2, ui::key::Enter);
 }
 
@@ -173,10 +174,6 @@ void Play::Clear() {
     Proceed();
 }
 
-void Play::InPanel(std::initializer_list<std::string> typed) {
-    lines.assign(typed);
-}
-
 bool Play::PlayNextLine() {
     if (lines.empty()) return false;
     const std::string line = lines.front();
@@ -196,17 +193,15 @@ bool Play::PlayNextLine() {
 }
 
 std::vector<std::string> Play::Said() const {
-    std::string_view output = Output();
-    if (!output.starts_with(before)) return Paragraphs(output);
-    output.remove_prefix(before.size());
-    auto paragraphs = Paragraphs(output);
-    if (!before.empty() || paragraphs.front().empty()) paragraphs.erase(paragraphs.begin());  // the break in front of the first
+    if (Form1().Text1.Replacements() != replacements) return Paragraphs(Output());
+    auto paragraphs = Paragraphs(std::string_view(Output()).substr(said));
+    paragraphs.erase(paragraphs.begin());  // what stands before the break
     return paragraphs;
 }
 
 std::string Play::LastSaid() const {
-    const auto said = Said();
-    return said.empty() ? "" : said.back();
+    const auto paragraphs = Said();
+    return paragraphs.empty() ? "" : paragraphs.back();
 }
 
 std::vector<int> Play::Told() const {

@@ -48,7 +48,7 @@ public:
     void ChooseTarget(Item target);
 
     // What he will type into the next panel, a line and Enter each; "Cancel" turns away from the keypad.
-    void InPanel(std::initializer_list<std::string> lines);
+    void InPanel(const std::vector<std::string>& typed) { lines.assign(typed.begin(), typed.end()); }
     void Draws(std::initializer_list<double> numbers) { drawn.assign(numbers); }
 
     // What the last command appended to the output box, or all that it holds when the command replaced it: its paragraphs, the last of
@@ -94,5 +94,6 @@ private:
     std::deque<double> drawn;
     std::deque<std::string> lines;
     Game game;
-    std::string before;  // the output box before the last command
+    std::size_t said = 0;            // how much the output box held before the last command
+    std::uint64_t replacements = 0;  // and how often it had been replaced
 };
