@@ -87,13 +87,12 @@ void EntryList::paintEvent(QPaintEvent*) {
     }
     if (!hasFocus()) return;
     painter.setPen(QPen(palette().text().color(), 1, Qt::DotLine));
-    painter.drawRect(RowRect(std::max(0, list.Selected())).adjusted(0, 0, -1, -1));
+    painter.drawRect(QRectF(RowRect(std::max(0, list.Selected()))).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void EntryList::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
-        Click(verticalScrollBar()->value() + static_cast<int>(event->position().y()) / RowHeight);
-    }
+    const int index = verticalScrollBar()->value() + static_cast<int>(event->position().y()) / RowHeight;
+    if (event->button() == Qt::LeftButton && !RowRect(index).isEmpty()) Click(index);
 }
 
 int EntryList::RowUnderKey(int key) const {

@@ -52,8 +52,7 @@ void InputLine::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     QPainter painter(this);
     if (caretLit) painter.fillRect(CaretRect(), palette().text());
-    painter.setPen(BorderColour);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    for (const QRect& side : QRegion(rect()) - rect().adjusted(1, 1, -1, -1)) painter.fillRect(side, BorderColour);
 }
 
 bool InputLine::Announce(char32_t character) {
