@@ -1,0 +1,177 @@
+// What keys, the mouse and the clipboard do to the boxes and lists.
+#include <gmock/gmock.h>
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QMimeData>
+
+#include "tests/qt/screen.h"
+
+using namespace ui;
+using ::testing::ElementsAre;
+
+namespace {
+
+struct Terminal : Screen {
+    Terminal() {
+        Show(windows.Form2.Window);
+        Do([this] { GiveFocus(windows, box); });
+    }
+    TextBox& box = windows.Form2.Text2;
+    qt::InputLine& line = Widget<qt::InputLine>(windows.Form2.Window, &windows.Form2.Text2);
+};
+
+void Drop(QWidget& target, const QString& text) {
+    QMimeData data;
+    data.setText(text);
+    QDragEnterEvent enter({3, 3}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &enter);
+    QDropEvent drop({3, 3}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&target, &drop);
+}
+
+}  // namespace
+
+TEST(QtInputLine, AnnouncesEachKeyBeforeItsEditAndKeepsSwallowedOnesOut) {
+    Terminal screen;
+    std::vector<std::string> before;
+    screen.box.KeyPress = [&](char32_t key) {
+        before.push_back(screen.box.Text());
+        return key == U'x' || key == key::Enter;
+    };
+    QTest::keyClicks(&screen.line, "axb");
+    QTest::keyClick(&screen.line, Qt::Key_Return);
+    QTest::keyClick(&screen.line, Qt::Key_Backspace);
+    EXPECT_THAT(before, ElementsAre("", "a", "a", "ab", "ab"));
+    EXPECT_EQ(screen.box.Text(), "a");
+    EXPECT_EQ(screen.line.text(), "a");
+}
+
+TEST(QtInputLine, TakesComposedLettersLikeTypedOnes) {
+    Terminal screen;
+    std::u32string heard;
+    screen.box.KeyPress = [&](char32_t key) {
+        heard += key;
+        return key == U'x';
+    };
+    QInputMethodEvent composed;
+    composed.setCommitString("řxň");
+    QCoreApplication::sendEvent(&screen.line, &composed);
+    EXPECT_EQ(heard, U"řxň");
+    EXPECT_EQ(screen.box.Text(), "řň");
+    EXPECT_EQ(screen.box.Caret(), screen.box.Text().size());
+}
+
+TEST(QtInputLine, EditsAtTheCaretAndLeavesTheRestToTheClipboard) {
+    Terminal screen;
+    QTest::keyClicks(&screen.line, "mj-prolax");
+    for (int step = 0; step < 5; ++step) QTest::keyClick(&screen.line, Qt::Key_Left);
+    QTest::keyClick(&screen.line, Qt::Key_E);
+    EXPECT_EQ(screen.box.Text(), "mj-perolax");
+    EXPECT_EQ(screen.box.Caret(), 5U);
+    QGuiApplication::clipboard()->setText("→ž\r\nb\t");
+    QTest::keyClick(&screen.line, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(screen.box.Text(), "mj-pe?žbrolax");
+    EXPECT_EQ(screen.line.text(), QString("mj-pe?žbrolax"));
+    screen.line.selectAll();
+    QTest::keyClick(&screen.line, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(screen.box.Text(), "");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QString("mj-pe?žbrolax"));
+}
+
+TEST(QtReadOnlyBoxes, TakeNothing) {
+    Screen screen;
+    screen.windows.Form1.Text1.SetVisible(true);
+    screen.Show(screen.windows.Form1.Window);
+    std::vector<int> keys;
+    screen.windows.Form1.Text2.KeyDown = [&](int key) { keys.push_back(key); };
+    QGuiApplication::clipboard()->setText("vloženo");
+    for (TextBox* box : {&screen.windows.Form1.Text1, &screen.windows.Form1.Text2}) {
+        QWidget& widget = *screen.Widget(screen.windows.Form1.Window).WidgetOf(box);
+        QTest::keyClicks(&widget, "ab");
+        QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(&widget, Qt::Key_Delete);
+        QTest::mouseClick(&widget, Qt::MiddleButton);
+        Drop(widget, "přetaženo");
+        EXPECT_EQ(box->Text(), "");
+    }
+    EXPECT_TRUE(screen.Widget<qt::InputLine>(screen.windows.Form1.Window, &screen.windows.Form1.Text2).text().isEmpty());
+    QTest::keyClick(screen.Widget(screen.windows.Form1.Window).WidgetOf(&screen.windows.Form1.Text2), Qt::Key_Enter);
+    EXPECT_EQ(keys.back(), 13);
+}
+
+TEST(QtLists, SelectUnderTheMouseAndUnderTheCursorKeys) {
+    Screen screen;
+    ListBox& list = screen.windows.Form4.List1;
+    for (int entry = 0; entry < 14; ++entry) list.Append(std::to_string(entry));
+    std::vector<int> clicks;
+    list.Click = [&] { clicks.push_back(list.Selected()); };
+    std::u32string typed;
+    list.KeyPress = [&](char32_t key) {
+        typed += key;
+        return false;
+    };
+    screen.Show(screen.windows.Form4.Window);
+    auto& widget = screen.Widget<qt::EntryList>(screen.windows.Form4.Window, &list);
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, {10, 9 * 16 + 15});
+    EXPECT_TRUE(widget.hasFocus());
+    QTest::keyClick(&widget, Qt::Key_Down);
+    EXPECT_FALSE(widget.RowRect(10).isEmpty());
+    QTest::keyClick(&widget, Qt::Key_Home);
+    QTest::keyClick(&widget, Qt::Key_Up);
+    QTest::keyClick(&widget, Qt::Key_End);
+    QTest::keyClick(&widget, Qt::Key_A);
+    QTest::keyClick(&widget, Qt::Key_Return);
+    EXPECT_THAT(clicks, ElementsAre(9, 10, 0, 0, 13));
+    EXPECT_EQ(typed, U"a\r");
+}
+
+TEST(QtLists, IgnoreAClickBelowTheLastEntry) {
+    Screen screen;
+    screen.windows.Form1.List1.Click = [] { FAIL(); };
+    screen.Show(screen.windows.Form1.Window);
+    auto& widget = screen.Widget<qt::EntryList>(screen.windows.Form1.Window, &screen.windows.Form1.List1);
+    QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, {10, 40});
+}
+
+TEST(QtFocus, WalksThePanelsAndAlwaysReturnsInTheMainWindow) {
+    Screen screen;
+    screen.Show(screen.windows.Form4.Window);
+    auto& panel = screen.Widget(screen.windows.Form4.Window);
+    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.List1)->hasFocus());
+    QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.Text1)->hasFocus());
+    QTest::keyClick(panel.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.List1)->hasFocus());
+
+    screen.Show(screen.windows.Form1.Window);
+    auto& main = screen.Widget(screen.windows.Form1.Window);
+    QTest::keyClick(main.focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(main.WidgetOf(&screen.windows.Form1.Text2)->hasFocus());
+    QTest::mouseClick(dynamic_cast<qt::EntryList*>(main.WidgetOf(&screen.windows.Form1.List2[0]))->viewport(), Qt::LeftButton, {}, {9, 20});
+    EXPECT_EQ(screen.windows.Form1.List2[0].Selected(), 1);
+    EXPECT_TRUE(main.WidgetOf(&screen.windows.Form1.Text2)->hasFocus());
+    screen.Show(screen.windows.Form5.Window);
+    EXPECT_TRUE(main.isActiveWindow());
+}
+
+TEST(QtLabels, PassTheirClicksToTheAreaThatLiesOnThem) {
+    Screen screen;
+    int clicks = 0;
+    screen.windows.Form1.Label1.Click = [&] { ++clicks; };
+    screen.Show(screen.windows.Form1.Window);
+    auto& main = screen.Widget(screen.windows.Form1.Window);
+    for (const QPoint place : {QPoint(188, 494), QPoint(161, 481), QPoint(216, 504)}) {
+        QWidget* hit = main.childAt(place);
+        ASSERT_NE(hit, nullptr);
+        QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&main, place));
+    }
+    EXPECT_EQ(clicks, 3);
+    QWidget* area = main.WidgetOf(&screen.windows.Form1.Label1);
+    QTest::mousePress(area, Qt::LeftButton, {}, {5, 5});
+    QTest::mouseRelease(area, Qt::LeftButton, {}, {-5, 5});
+    QTest::mouseClick(area, Qt::RightButton, {}, {5, 5});
+    EXPECT_EQ(clicks, 3);
+}
