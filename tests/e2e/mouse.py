@@ -1,0 +1,123 @@
+#!/usr/bin/env python3
+"""Plays the real window with a real mouse: from the title to the corridor outside the cabin, and out by three doors.
+
+Usage: mouse.py PROGRAM_FOLDER REPLAY
+"""
+
+import json
+import subprocess
+import sys
+import time
+
+from stage import MAIN, MAIN_SIZE, SCREEN, stage, wait_for
+
+VERBS = ["Jdi", "Prozkoumej", "Použij", "Vezmi", "Polož", "Otevři", "Zavři", "Oslov", "Vymaž", "Nahraj pozici", "Ulož pozici"]
+LISTS = {"carried": (16, 416), "verbs": (224, 448), "objects": (368, 448), "targets": (512, 448)}  # top left corners in pixels
+PROCEED = (188, 494)
+SYSTEM_PANEL = (312, 217)
+
+
+class Player:
+    def __init__(self, on):
+        self.on = on
+
+    def click(self, x, y, button=1):
+        self.on.xdotool("mousemove", x, y, "click", button)
+
+    def click_main(self, place):
+        self.click(MAIN[0] + place[0], MAIN[1] + place[1])
+
+    def click_entry(self, name, index, count=5):
+        """Entry `index` of a list of `count`, of which five are in sight: the wheel turns three rows at a time, as far as there are any."""
+        left, top = LISTS[name]
+        turns = index // 4 if count > 5 else 0
+        if count > 5:
+            self.on.xdotool("mousemove", MAIN[0] + left + 30, MAIN[1] + top + 40, "click", "--repeat", "5", "--delay", "20", "4")
+        if turns:
+            self.on.xdotool("click", "--repeat", turns, "--delay", "20", "5")
+        self.click_main((left + 30, top + 1 + 16 * (index - min(3 * turns, max(0, count - 5))) + 8))
+
+    def command(self, verb, *choices):
+        self.click_entry("verbs", VERBS.index(verb), 13)
+        for choice in choices:
+            self.click_entry(*choice)
+        self.click_main(PROCEED)
+
+    def keys(self, *names):
+        self.on.xdotool("key", "--delay", "20", *names)
+
+    def begin(self):
+        wait_for("the first window", lambda: self.on.shows("POZOR!") or self.on.shows("Orvel Tavoren v1.01"))
+        if self.on.shows("POZOR!"):  # no Arial here
+            self.on.xdotool("windowfocus", "--sync", self.on.window("POZOR!"))
+            self.keys("Return")
+        self.on.window("Orvel Tavoren v1.01")
+        time.sleep(0.5)  # the window manager gives it the focus
+        self.click_main(PROCEED)
+        self.click_main(PROCEED)
+
+
+def saved_state(on, replay):
+    """What the game that was saved last holds, as the headless player sees it."""
+    events = "".join(event + "\n" for event in [
+        "key Form1.Text2 Enter", "key Form1.Text2 Enter", "click Form1.List2(0) 9", "key Form1.Text2 Enter", "click Form4.List1 0",
+        "key Form4.Text1 Enter", "state"])
+    # A panel holds the line that opened it until it closes, so the answer is the only one.
+    answer = subprocess.run([replay, on.program_folder], input=events, capture_output=True, text=True, check=True)
+    return json.loads(answer.stdout.splitlines()[-1])
+
+
+def walk_to_the_corridor(on, replay):
+    player = Player(on)
+    player.begin()
+    player.command("Vezmi", ("objects", 5, 6))  # the tools
+    player.command("Otevři", ("objects", 2))  # the bathroom door
+    player.command("Jdi", ("objects", 0))
+    player.command("Vezmi", ("objects", 0))  # the cabin key
+    player.command("Jdi", ("objects", 0))
+    player.command("Použij", ("carried", 1), ("targets", 1))  # on the door
+    player.command("Otevři", ("objects", 1))
+    player.command("Jdi", ("objects", 0))
+    player.command("Ulož pozici")
+    on.window("System Panel")
+    on.xdotool("type", "--delay", "20", "chodba")
+    # A click on the main window, which must not take any, between the word and the button.
+    player.click_main((MAIN_SIZE[0] - 10, 530))
+    left, top = ((screen - size) // 2 for screen, size in zip(SCREEN, SYSTEM_PANEL))
+    player.click(left + 270, top + 196)
+    wait_for("the save", (on.program_folder / "data/saves/chodba.TVX").exists)
+    state = saved_state(on, replay)
+    assert state["CurrentSector"] == 3, f"he stands in sector {state['CurrentSector']}"
+    assert state["CabinDoorUnlocked"] == -1
+    assert sum(item > 0 for item in state["Inventory"]) == 2, state["Inventory"]
+    wait_for("the panel to go", lambda: not on.shows("System Panel"))
+    player.keys("Escape")
+    assert on.exit_code() == 0
+
+
+def leave_from_inside_a_panel(on, _replay):
+    player = Player(on)
+    player.begin()
+    player.command("Použij", ("objects", 0), ("targets", 6, 7))  # the terminal, on himself
+    on.window("Terminal Active")
+    player.keys("Escape", "alt+F4")
+    time.sleep(0.3)
+    assert on.shows("Terminal Active"), "only 'exit' leaves the terminal"
+    on.xdotool("type", "--delay", "20", "exit")
+    player.keys("Return")
+    wait_for("the terminal to go", lambda: not on.shows("Terminal Active"))
+    player.command("Použij", ("objects", 0), ("targets", 6, 7))
+    on.window("Terminal Active")
+    player.click(MAIN[0] + MAIN_SIZE[0] - 10, MAIN[1] - 10)  # the close box of the main window
+    assert on.exit_code() == 0
+
+
+def main():
+    program_folder, replay = sys.argv[1:]
+    for scene in (walk_to_the_corridor, leave_from_inside_a_panel):
+        with stage(program_folder) as on:
+            scene(on, replay)
+        print("passed:", scene.__name__)
+
+
+main()
