@@ -99,10 +99,11 @@ void Play::Type(const ui::Form& form, ui::TextBox& box, std::string_view charact
     while (!characters.empty()) Press(form, box, text::TakeCharacter(characters));
 }
 
-void Play::Proceed() {
+Play& Play::Proceed() {
     said = Output().size();
     replacements = Form1().Text1.Replacements();
     Press(Form1().Window, Form1().Text2, ui::key::Enter);
+    return *this;
 }
 
 void Play::Choose(std::int16_t verb) {
@@ -123,50 +124,50 @@ void Play::ChooseTarget(Item target) {
     Click(Form1().Window, targets, target == Item::Self ? last : IndexOf(game.state.Sectors[game.state.CurrentSector].Items, target));
 }
 
-void Play::Run(std::int16_t verb, Item item) {
+Play& Play::Run(std::int16_t verb, Item item) {
     Choose(verb);
     ChooseObject(item);
-    Proceed();
+    return Proceed();
 }
 
-void Play::Go(std::string_view direction) {
+Play& Play::Go(std::string_view direction) {
     Choose(verb::Go);
     ui::ListBox& offered = Form1().List2[1];
     const auto entry = std::ranges::find(offered.Entries(), direction);
-    ASSERT_NE(entry, offered.Entries().end()) << "no way " << direction;
+    if (entry == offered.Entries().end()) ADD_FAILURE() << "no way " << direction;
     Click(Form1().Window, offered, static_cast<int>(entry - offered.Entries().begin()));
-    Proceed();
+    return Proceed();
 }
 
-void Play::Examine(Item item) {
-    Run(verb::Examine, item);
+Play& Play::Examine(Item item) {
+    return Run(verb::Examine, item);
 }
 
-void Play::Use(Item item, Item target) {
+Play& Play::Use(Item item, Item target) {
     Choose(verb::Use);
     ChooseObject(item);
     ChooseTarget(target);
-    Proceed();
+    return Proceed();
 }
 
-void Play::Take(Item item) {
-    Run(verb::Take, item);
+Play& Play::Take(Item item) {
+    return Run(verb::Take, item);
 }
 
-void Play::Put(Item item) {
-    Run(verb::Put, item);
+Play& Play::Put(Item item) {
+    return Run(verb::Put, item);
 }
 
-void Play::Open(Item item) {
-    Run(verb::Open, item);
+Play& Play::Open(Item item) {
+    return Run(verb::Open, item);
 }
 
-void Play::Close(Item item) {
-    Run(verb::Close, item);
+Play& Play::Close(Item item) {
+    return Run(verb::Close, item);
 }
 
-void Play::Talk(Item item) {
-    Run(verb::Talk, item);
+Play& Play::Talk(Item item) {
+    return Run(verb::Talk, item);
 }
 
 void Play::Clear() {

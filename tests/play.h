@@ -33,15 +33,15 @@ public:
     static Play InCabin(std::initializer_list<Item> carried = {}) { return In(sector::Cabin, carried); }
 
     // The player's words.
-    void Proceed();  // Enter in the command line
-    void Go(std::string_view direction);
-    void Examine(Item item);
-    void Use(Item item, Item target);
-    void Take(Item item);
-    void Put(Item item);
-    void Open(Item item);
-    void Close(Item item);
-    void Talk(Item item);
+    Play& Proceed();  // Enter in the command line
+    Play& Go(std::string_view direction);
+    Play& Examine(Item item);
+    Play& Use(Item item, Item target);
+    Play& Take(Item item);
+    Play& Put(Item item);
+    Play& Open(Item item);
+    Play& Close(Item item);
+    Play& Talk(Item item);
     void Clear();
     void Choose(std::int16_t verb);  // without Enter
     void ChooseObject(Item item);    // one that he sees or carries
@@ -85,7 +85,7 @@ public:
 private:
     Play(std::int16_t sector, std::initializer_list<Item> carried);
 
-    void Run(std::int16_t verb, Item item);
+    Play& Run(std::int16_t verb, Item item);
     bool PlayNextLine();
 
     TemporaryFolder folder;
