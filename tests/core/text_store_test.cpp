@@ -80,7 +80,9 @@ TEST(StoryText, StandsAloneOrAfterABlankLineWithTheCaretAtItsEnd) {
     EXPECT_EQ(box.Caret(), box.Text().size());
     ShowStoryText(play.TheGame(), 81, Output::Replace);
     EXPECT_EQ(box.Text(), play.Text(81));
+    testing::internal::CaptureStderr();
     ShowStoryText(play.TheGame(), LastText + 1, Output::Replace);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "orvel-tavoren: no story text has the number 273\n");
     EXPECT_EQ(box.Text(), play.Text(81));
 }
 

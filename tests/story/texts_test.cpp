@@ -32,12 +32,12 @@ public:
             }
             DrawState();
             play.State().Inventory[0] = number;
-            for (int target = 0; target < NumberOf(HeatSensor); ++target) {
+            for (int target = 0; target < 60; ++target) {
                 Do([&] { DoUse(play.TheGame(), item, DrawItem()); });
             }
             Do([&] { DoUse(play.TheGame(), item, Self); });
         }
-        for (int step = 0; step < 500; ++step) {
+        for (int step = 0; step < 200; ++step) {
             DrawState();
             const auto ways = play.Exits();
             if (ways.front() != "---") play.Go(ways[static_cast<std::size_t>(Draw(static_cast<int>(ways.size())))]);
@@ -101,7 +101,7 @@ TEST(StoryTexts, AreAllToldAndNoneIsMissing) {
     Play play;
     Everything everything(play);
     testing::internal::CaptureStderr();
-    for (int round = 0; round < 200 && everything.Told.size() < LastText - 1; ++round) everything.Happens();
+    for (int round = 0; round < 400 && everything.Told.size() < LastText - 1; ++round) everything.Happens();
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
     for (TextNumber number = 1; number <= LastText; ++number) EXPECT_EQ(everything.Told.contains(number), number != Unused) << number;
 }
