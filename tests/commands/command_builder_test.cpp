@@ -1,7 +1,5 @@
 #include "commands/command_builder.h"
 
-#include "core/carrying.h"
-#include "core/stages.h"
 #include "core/verbs.h"
 #include "tests/play.h"
 #include "ui/input.h"

@@ -1,8 +1,6 @@
 #include "commands/command_reader.h"
 
 #include "app/start_up.h"
-#include "core/carrying.h"
-#include "core/stages.h"
 #include "core/verbs.h"
 #include "tests/play.h"
 #include "ui/input.h"

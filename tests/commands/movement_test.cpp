@@ -5,7 +5,6 @@ namespace {
 
 using enum Item;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::StartsWith;
 
 TEST(Step, LeadsThroughThePassageBothWays) {

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "core/carrying.h"
 #include "interactions/doors.h"
 #include "interactions/receptacles.h"
 #include "interactions/verbs.h"
