@@ -1,6 +1,7 @@
 #include "app/start_up.h"
 
 #include <chrono>
+#include <csignal>
 #include <memory>
 #include <random>
 
@@ -56,6 +57,8 @@ RandomSource SeededRandom() {
 }
 
 void Main(Game& game, const std::filesystem::path& appPath) {
+    // A file that may not grow is told like a full disk; the signal would kill the game.
+    std::signal(SIGXFSZ, SIG_IGN);
     ConnectWindows(game);
     game.windows.BusyPointer = true;
     game.state.AppPath = appPath;
