@@ -37,7 +37,7 @@ def end(process):
 
 
 class Stage:
-    def __init__(self, program_folder, running):
+    def __init__(self, program_folder, settings, running):
         folder = running.enter_context(tempfile.TemporaryDirectory(prefix="orvel-e2e-"))
         self.program_folder = Path(folder) / "game"
         shutil.copytree(program_folder, self.program_folder)
@@ -49,7 +49,7 @@ class Stage:
             display = ":" + numbers.readline().strip()
         self.environment = {name: value for name, value in os.environ.items()
                             if not name.startswith("QT_") and name != "WAYLAND_DISPLAY"}
-        self.environment |= {"DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": folder}
+        self.environment |= {"DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": folder} | settings
         start(["openbox", "--sm-disable"], running, env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for("the window manager", self._managed)
         self.game = start([self.program_folder / "orvel-tavoren"], running, env=self.environment)
@@ -75,6 +75,6 @@ class Stage:
 
 
 @contextlib.contextmanager
-def stage(program_folder):
+def stage(program_folder, settings=None):
     with contextlib.ExitStack() as running:
-        yield Stage(program_folder, running)
+        yield Stage(program_folder, settings or {}, running)

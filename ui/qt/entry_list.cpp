@@ -1,6 +1,5 @@
 #include "ui/qt/entry_list.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,8 +36,6 @@ void EntryList::Mirror() {
         shown = list.Entries();
         verticalScrollBar()->setValue(0);
         FitScrollBar();
-        QAccessibleEvent reordered(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&reordered);
     }
     ScrollTo(list.Selected());
     viewport()->update();
