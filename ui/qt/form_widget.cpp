@@ -9,7 +9,6 @@
 
 #include "ui/input.h"
 #include "ui/qt/look.h"
-#include "ui/qt/picture.h"
 #include "ui/qt/region.h"
 
 namespace ui::qt {
@@ -32,6 +31,8 @@ FormWidget::FormWidget(const Entrance& door, Form& mirrored) : QWidget(nullptr, 
     setAccessibleName(windowTitle());
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (!form.Layout.Backdrop) setFixedSize(form.Layout.Width / TwipsPerPixel, form.Layout.Height / TwipsPerPixel);
+    setAttribute(Qt::WA_ShowWithoutActivating, form.Layout.Backdrop);
+    LoadPicture();
     for (const Control& control : form.Controls) controls.push_back(MakeWidget(control));
 }
 
@@ -51,6 +52,7 @@ QWidget* FormWidget::WidgetOf(const Control& control) const {
 void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
     setEnabled(reachable);
     MirrorLook();
+    if (form.Visible && LoadPicture()) update();
     for (const ControlWidget& control : controls) std::visit([](auto* widget) { widget->Mirror(); }, control);
     if (form.Visible && !isVisible()) Place(owner);
     setVisible(form.Visible);
@@ -59,17 +61,20 @@ void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
 void FormWidget::MirrorLook() {
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.AlwaysOnTop) setWindowFlag(Qt::WindowStaysOnTopHint, form.AlwaysOnTop);
     if (form.Region && mask().isEmpty()) setMask(ClientRegion(*form.Region, size()));
-    if (mirroredPicture != form.Picture) update();
 }
 
 void FormWidget::Place(const FormWidget* owner) {
     const QRect screenArea = screen()->geometry();
-    if (form.Layout.Backdrop) return setGeometry(screenArea);
+    if (form.Layout.Backdrop) {
+        setGeometry(screenArea);
+        winId();  // makes the window, so that it appears behind the others at once
+        return lower();
+    }
     QRect place(QPoint(), size());
     place.moveCenter(owner == nullptr ? screenArea.center() : owner->geometry().center());
     setGeometry(place);
     if (owner == nullptr) return;
-    winId();  // makes the window, which is hidden as yet
+    winId();
     windowHandle()->setTransientParent(owner->windowHandle());
 }
 
@@ -114,23 +119,16 @@ bool FormWidget::focusNextPrevChild(bool next) {
     return true;
 }
 
-void FormWidget::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    LoadBackground();
-    if (background.isNull()) return painter.fillRect(rect(), ToQt(form.Layout.Background));
-    painter.drawPixmap(0, 0, background);
+bool FormWidget::LoadPicture() {
+    return !form.Picture.empty() && picture.Load(form.Picture, size(), devicePixelRatio());
 }
 
-// Not before it is painted: most panels are not opened for a long time.
-void FormWidget::LoadBackground() {
-    if (mirroredPicture != form.Picture) {
-        mirroredPicture = form.Picture;
-        picture = LoadPicture(form.Picture);
-        background = {};
-    }
-    const qreal density = devicePixelRatio();
-    if (picture.isNull() || (!background.isNull() && background.devicePixelRatio() == density)) return;
-    background = ScaledTo(picture, size(), density);
+void FormWidget::paintEvent(QPaintEvent*) {
+    LoadPicture();  // it may have come to a screen of another density
+    QPainter painter(this);
+    const QPixmap& background = picture.Loaded();
+    if (background.isNull()) return painter.fillRect(rect(), ToQt(form.Layout.Background));
+    painter.drawPixmap(0, 0, background);
 }
 
 }  // namespace ui::qt

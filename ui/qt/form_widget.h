@@ -1,7 +1,6 @@
 // A window of the game with its controls, picture and shape.
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 #include <variant>
 #include <vector>
@@ -11,6 +10,7 @@
 #include "ui/qt/input_line.h"
 #include "ui/qt/label_area.h"
 #include "ui/qt/output_view.h"
+#include "ui/qt/picture.h"
 
 namespace ui::qt {
 
@@ -40,15 +40,13 @@ private:
     ControlWidget MakeWidget(const Control& control);
     void MirrorLook();
     void Place(const FormWidget* owner);
-    void LoadBackground();
     void TakeFocus();
+    bool LoadPicture();  // true: it is a new one
 
     const Entrance& entrance;
     Form& form;
     std::vector<ControlWidget> controls;  // in the order of the form's
-    std::filesystem::path mirroredPicture;
-    QImage picture;
-    QPixmap background;  // the picture in the window's size and the screen's density
+    Picture picture;
 };
 
 }  // namespace ui::qt

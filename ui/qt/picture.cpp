@@ -5,21 +5,33 @@
 
 namespace ui::qt {
 
-QImage LoadPicture(const std::filesystem::path& path) {
-    if (path.empty()) return {};
-    QImageReader reader(QString::fromStdString(path.string()));
-    // The files are named without an extension, so that their content alone tells what they are.
-    reader.setDecideFormatFromContent(true);
-    QImage picture = reader.read();
-    if (picture.isNull()) std::cerr << "Obrázek " << path.string() << " nelze načíst: " << reader.errorString().toStdString() << '\n';
-    return picture;
+namespace {
+
+QImage Read(const std::filesystem::path& path, const QSize& size, qreal density) {
+    // The files are named without an extension. Not to name the format would have Qt load all the formats that it knows.
+    QImage image = QImageReader(QString::fromStdString(path.string()), "png").read();
+    if (image.isNull()) return image;
+    image = image.scaled((QSizeF(size) * density).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image.setDevicePixelRatio(density);
+    return image;
 }
 
-QPixmap ScaledTo(const QImage& picture, const QSize& size, qreal density) {
-    const QSize pixels = (QSizeF(size) * density).toSize();
-    QPixmap scaled = QPixmap::fromImage(picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    scaled.setDevicePixelRatio(density);
-    return scaled;
+}  // namespace
+
+bool Picture::Load(const std::filesystem::path& file, const QSize& size, qreal density) {
+    if (file == path && density == loadedDensity) return false;
+    path = file;
+    loadedDensity = density;
+    reading = std::async(std::launch::async, Read, path, size, density);
+    return true;
+}
+
+const QPixmap& Picture::Loaded() {
+    if (reading.valid()) {
+        loaded = QPixmap::fromImage(reading.get());
+        if (loaded.isNull()) std::cerr << "Obrázek " << path.string() << " chybí nebo je poškozený.\n";
+    }
+    return loaded;
 }
 
 }  // namespace ui::qt

@@ -1,16 +1,27 @@
-// The background pictures.
+// The background picture of a window, decoded beside the work of opening the window.
 #pragma once
 
 #include <QImage>
 #include <QPixmap>
 #include <filesystem>
+#include <future>
 
 namespace ui::qt {
 
-// A file that is missing or no picture gives an empty image, and a line on standard error.
-QImage LoadPicture(const std::filesystem::path& path);
+class Picture {
+public:
+    // Starts reading the file in a size given in device-independent pixels, each of which the screen shows as `density` by `density` of its
+    // own; false when there is nothing new to read.
+    bool Load(const std::filesystem::path& file, const QSize& size, qreal density);
 
-// The size is in device-independent pixels, of which the screen shows each as `density` by `density` of its own.
-QPixmap ScaledTo(const QImage& picture, const QSize& size, qreal density);
+    // A file that is missing or no picture gives an empty one, and a line on standard error.
+    const QPixmap& Loaded();
+
+private:
+    std::filesystem::path path;
+    qreal loadedDensity = 0;
+    std::future<QImage> reading;
+    QPixmap loaded;
+};
 
 }  // namespace ui::qt

@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "ui/errors.h"
@@ -11,10 +10,6 @@
 #include "ui/qt/look.h"
 
 namespace ui::qt {
-
-QtDesktop::QtDesktop(Windows& mirrored) : windows(mirrored), entrance{mirrored, [this](const auto& event) { Enter(event); }} {
-    std::ranges::transform(windows.All, forms.begin(), [this](Form* form) { return std::make_unique<FormWidget>(entrance, *form); });
-}
 
 QtDesktop::~QtDesktop() {
     ended = true;  // the widgets' last events find nobody
@@ -70,13 +65,13 @@ void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
 }
 
 std::size_t QtDesktop::CountLines(const TextBox& box) const {
-    for (const auto& form : forms) {
-        const auto control = std::ranges::find_if(form->Model().Controls, [&](const Control& each) {
+    for (const Form* form : windows.All) {
+        const auto control = std::ranges::find_if(form->Controls, [&box](const Control& each) {
             auto* const* candidate = std::get_if<TextBox*>(&each);
             return candidate != nullptr && *candidate == &box;
         });
-        if (control == form->Model().Controls.end()) continue;
-        if (auto* view = dynamic_cast<OutputView*>(form->WidgetOf(*control))) return view->CountLines();
+        if (control == form->Controls.end()) continue;
+        if (auto* view = dynamic_cast<OutputView*>(WidgetOf(*form).WidgetOf(*control))) return view->CountLines();
     }
     return 1;
 }
@@ -86,16 +81,20 @@ bool QtDesktop::HasFontFamily(std::string_view name) const {
 }
 
 FormWidget& QtDesktop::WidgetOf(const Form& form) const {
-    return **std::ranges::find_if(forms, [&](const auto& each) { return &each->Model() == &form; });
+    const auto place = std::ranges::find(windows.All, &form) - windows.All.begin();
+    auto& widget = forms.at(static_cast<std::size_t>(place));
+    if (!widget) widget = std::make_unique<FormWidget>(entrance, *windows.All.at(static_cast<std::size_t>(place)));
+    return *widget;
 }
 
 void QtDesktop::Mirror() {
     mirroring = true;
-    FormWidget& main = WidgetOf(windows.Form1.Window);
-    // From the backdrop forward, so that each window opens above the ones behind it.
-    for (const auto& form : forms | std::views::reverse) {
-        const bool panel = !form->Model().Layout.Framed && !form->Model().Layout.Backdrop;
-        form->Mirror(modal == nullptr || modal == &form->Model(), panel ? &main : nullptr);
+    // The main window, for which the player waits, comes first; the backdrop slips in behind it.
+    for (std::size_t place = 0; place < forms.size(); ++place) {
+        const Form& form = *windows.All[place];
+        if (!forms[place] && !form.Visible) continue;
+        const bool panel = !form.Layout.Framed && !form.Layout.Backdrop;
+        WidgetOf(form).Mirror(modal == nullptr || modal == &form, panel ? &WidgetOf(windows.Form1.Window) : nullptr);
     }
     MirrorPointer();
     if (windows.Active != nullptr && windows.Active->Visible) WidgetOf(*windows.Active).MirrorFocus();

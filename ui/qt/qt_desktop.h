@@ -14,7 +14,7 @@ namespace ui::qt {
 
 class QtDesktop final : public Desktop {
 public:
-    explicit QtDesktop(Windows& mirrored);
+    explicit QtDesktop(Windows& mirrored) : windows(mirrored), entrance{mirrored, [this](const auto& event) { Enter(event); }} {}
     ~QtDesktop() override;
 
     // Shows the windows and plays until the program ends.
@@ -38,7 +38,7 @@ private:
 
     Windows& windows;
     Entrance entrance;
-    std::array<std::unique_ptr<FormWidget>, 5> forms;
+    mutable std::array<std::unique_ptr<FormWidget>, 5> forms;  // each made when it is first needed
     Form* modal = nullptr;
     std::vector<QEventLoop*> loops;  // the innermost last
     bool mirroring = false;
