@@ -32,3 +32,7 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/app/main.cpp)
     set_target_properties(orvel-tavoren PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${program_folder})
     add_dependencies(orvel-tavoren pictures story)
 endif()
+
+if(ORVEL_TESTS)
+    add_subdirectory(bench/qt)
+endif()
