@@ -6,8 +6,6 @@
 
 namespace {
 
-using testing::ElementsAre;
-
 std::string Refusal(const std::string& source) {
     try {
         tools::PackTexts(source, "texts.txt");
