@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::uint8_t FirstTableCode = 0x80;  // below it the code page is ASCII
 
-// clang-format off: sixteen codes a line
+// Sixteen codes a line.
+// clang-format off
 constexpr auto UpperHalf = std::to_array<char16_t>({
     u'€', u'\x81', u'‚', u'\x83', u'„', u'…', u'†', u'‡', u'\x88', u'‰', u'Š', u'‹', u'Ś', u'Ť', u'Ž', u'Ź',
     u'\x90', u'‘', u'’', u'“', u'”', u'•', u'–', u'—', u'\x98', u'™', u'š', u'›', u'ś', u'ť', u'ž', u'ź',

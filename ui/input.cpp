@@ -73,7 +73,7 @@ void WalkTabOrder(Windows& windows, Form& form, bool forward) {
     if (!forward) std::ranges::reverse(order);
     const auto here = form.Focused ? std::ranges::find(order, *form.Focused) : order.end();
     if (here == order.end()) return;
-    std::ranges::rotate(order, here);
+    std::rotate(order.begin(), here, order.end());
     const Control next = order[order.size() > 1 ? 1 : 0];
     if (auto* const* box = std::get_if<TextBox*>(&next)) GiveFocus(windows, **box);
     if (auto* const* list = std::get_if<ListBox*>(&next)) GiveFocus(windows, **list);
