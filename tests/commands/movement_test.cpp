@@ -27,6 +27,10 @@ struct ClosingDoor {
     std::string_view WayBack;
 };
 
+void PrintTo(const ClosingDoor& door, std::ostream* out) {
+    *out << "door " << NumberOf(door.Side) << " of sector " << door.From;
+}
+
 class DoorsBehindThePlayer : public testing::TestWithParam<ClosingDoor> {};
 
 TEST_P(DoorsBehindThePlayer, FallShut) {

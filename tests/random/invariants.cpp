@@ -1,4 +1,4 @@
-#include "invariants.h"
+#include "tests/random/invariants.h"
 
 #include <gtest/gtest.h>
 

@@ -11,8 +11,8 @@
 #include "app/start_up.h"
 #include "core/stages.h"
 #include "core/verbs.h"
-#include "invariants.h"
-#include "random_player.h"
+#include "tests/random/invariants.h"
+#include "tests/random/random_player.h"
 
 namespace fs = std::filesystem;
 

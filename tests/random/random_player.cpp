@@ -1,4 +1,4 @@
-#include "random_player.h"
+#include "tests/random/random_player.h"
 
 #include <array>
 
