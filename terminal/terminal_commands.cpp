@@ -87,7 +87,9 @@ bool CheckSN(Game& game, std::string_view serialNumber, Kind kind) {
 }
 
 void Confirm(const Call& call, std::string_view serialNumber, Kind kind) {
-    GetText(call.GameInPlay, std::string(EmergencyMessages[kind - 1U].Confirmation).append(text::UpperAscii(serialNumber)).append("..."));
+    GetText(call.GameInPlay, std::string(EmergencyMessages[static_cast<std::size_t>(kind - 1)].Confirmation)
+                                 .append(text::UpperAscii(serialNumber))
+                                 .append("..."));
 }
 
 bool IsTerminal(std::string_view serialNumber, Item terminal) {

@@ -128,6 +128,16 @@ TEST(QtLists, SelectUnderTheMouseAndUnderTheCursorKeys) {
     EXPECT_EQ(typed, U"a\r");
 }
 
+TEST(QtLists, TakeTwoQuickClicksForTwo) {
+    Screen screen;
+    screen.Show(screen.windows.Form1.Window);
+    int clicks = 0;
+    screen.windows.Form1.List2[0].Click = [&] { ++clicks; };
+    auto& verbs = screen.Widget<qt::EntryList>(screen.windows.Form1.Window, &screen.windows.Form1.List2[0]);
+    QTest::mouseDClick(verbs.viewport(), Qt::LeftButton, {}, {10, 8});
+    EXPECT_EQ(clicks, 2);
+}
+
 TEST(QtLists, IgnoreAClickBelowTheLastEntry) {
     Screen screen;
     screen.windows.Form1.List1.Click = [] { FAIL(); };
