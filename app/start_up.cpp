@@ -41,6 +41,7 @@ void DressWindows(ui::Windows& windows, const std::filesystem::path& pictures) {
     windows.Form1.Window.Region = RegionWithoutFrame(windows.Form1.Window.Layout);
     for (ui::Form* form : {&windows.Form2.Window, &windows.Form1.Window, &windows.Form3.Window, &windows.Form4.Window}) {
         form->AlwaysOnTop = true;
+        form->Icon = pictures / "icon";
     }
     windows.Form1.Window.Picture = pictures / "gui1";
     windows.Form2.Window.Picture = pictures / "gui2";

@@ -23,6 +23,13 @@ orvel_picture(gui1 665 562)
 orvel_picture(gui2 433 309)
 orvel_picture(gui3 194 73)
 orvel_picture(gui4 312 217)
+# The icon of the windows, 32 pixels wide.
+add_custom_command(OUTPUT ${program_folder}/data/pics/icon
+    COMMAND ${RSVG_CONVERT} --width 32 --height 32 --output ${program_folder}/data/pics/icon art/icon.svg
+    DEPENDS art/icon.svg
+    WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+    COMMENT "Drawing the icon")
+set_property(GLOBAL APPEND PROPERTY orvel_pictures ${program_folder}/data/pics/icon)
 get_property(pictures GLOBAL PROPERTY orvel_pictures)
 add_custom_target(pictures ALL DEPENDS ${pictures})
 

@@ -127,7 +127,8 @@ struct Form {
     bool Visible = false;
     bool AlwaysOnTop = false;
     std::optional<RoundRegion> Region{};
-    std::filesystem::path Picture{};
+    std::filesystem::path Picture{};   // fills the client area
+    std::filesystem::path Icon{};      // in the title bar and the task bar
     std::optional<Control> Focused{};  // the control that has the focus when the form has it
 };
 

@@ -118,6 +118,18 @@ TEST(QtWindows, ShowTheirPictureOrTheirPlainColour) {
     EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() - 4), QColor(Qt::darkGreen));
 }
 
+TEST(QtWindows, BearTheirIcon) {
+    const QTemporaryDir folder;
+    QImage drawn(32, 32, QImage::Format_RGB32);
+    drawn.fill(Qt::darkGreen);
+    drawn.save(folder.filePath("icon"), "PNG");
+    Screen screen;
+    Form& form = screen.windows.Form4.Window;
+    form.Icon = folder.filePath("icon").toStdString();
+    screen.Show(form);
+    EXPECT_EQ(screen.Widget(form).windowIcon().pixmap(32).toImage().pixelColor(16, 16), QColor(Qt::darkGreen));
+}
+
 TEST(QtWindows, CutTheBottomCornersOfTheMainWindowOnly) {
     Screen screen;
     Form& form = screen.windows.Form1.Window;

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "ui/input.h"
 #include "ui/qt/look.h"
@@ -60,6 +61,7 @@ void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
 
 void FormWidget::MirrorLook() {
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.AlwaysOnTop) setWindowFlag(Qt::WindowStaysOnTopHint, form.AlwaysOnTop);
+    if (std::exchange(mirroredIcon, form.Icon) != form.Icon) setWindowIcon(QPixmap(QString::fromStdString(form.Icon.string()), "png"));
     if (form.Region && mask().isEmpty()) setMask(ClientRegion(*form.Region, size()));
 }
 

@@ -47,6 +47,7 @@ private:
     Form& form;
     std::vector<ControlWidget> controls;  // in the order of the form's
     Picture picture;
+    std::filesystem::path mirroredIcon;
 };
 
 }  // namespace ui::qt
