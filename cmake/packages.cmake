@@ -68,7 +68,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_NAME orvel-tavoren)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-liberation)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "adventure game aboard a spaceship, in Czech")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "You are the repairman of the spaceship Alcaster, on the sixth day of a voyage
 to peace talks. A replicator in the laboratory has burnt out, and it will not

@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 SOURCE_FOLDERS = ["ui", "core", "terminal", "interactions", "saves", "commands", "app"]
-CZECH_DOCUMENTS = ["story/*.txt", "docs/*.md", "man/cs/*.6"]
+CZECH_DOCUMENTS = ["story/*.txt", "docs/*.md", "packaging/man/cs/*.6"]
 WHOLLY_CZECH = [Path("core/items.cpp")]  # where a literal without a Czech letter is Czech too
 WORD_LIST = "story/words.txt"
 
@@ -20,7 +20,7 @@ CZECH_LETTER = re.compile(r"[áčďéěíňóřšťúůýž]", re.IGNORECASE)
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 COMMENT = re.compile(r"^[ \t]*//.*|^[ \t]*#include.*", re.MULTILINE)
 ESCAPE = re.compile(r"\\.")
-NO_PROSE = re.compile(r"`[^`]*`|\]\([^)]*\)|\S*[/_]\S*|\w+\.\w+")  # code, links, paths and file names
+NO_PROSE = re.compile(r"`[^`]*`|\]\([^)]*\)|\S*[/_]\S*|\w+\.\w+|^\.\w+|orvel-tavoren")  # code, links, file names, macros
 
 
 def literals(code):

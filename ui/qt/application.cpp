@@ -2,6 +2,8 @@
 
 #include <xcb/xcb.h>
 
+#include <QDir>
+#include <QLibraryInfo>
 #include <QProxyStyle>
 
 #include "ui/qt/accessible.h"
@@ -30,6 +32,17 @@ bool CanConnectToX11() {
     return connected;
 }
 
+bool HasWaylandSocket() {
+    const QString name = qEnvironmentVariable("WAYLAND_DISPLAY");
+    return !name.isEmpty() && QFile::exists(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR")).filePath(name));
+}
+
+// Qt is installed without it on some systems, and would abort.
+bool KnowsWayland() {
+    const QDir platforms(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms");
+    return !platforms.entryList({"*wayland*"}).isEmpty();
+}
+
 }  // namespace
 
 std::optional<std::string> WhyNoScreen() {
@@ -39,9 +52,12 @@ std::optional<std::string> WhyNoScreen() {
         qputenv("QT_QPA_PLATFORM", "xcb");
         return std::nullopt;
     }
-    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) return std::nullopt;
+    if (HasWaylandSocket()) {
+        if (KnowsWayland()) return std::nullopt;
+        return "Na této obrazovce (Wayland) potřebuje hra balíček qt6-wayland. Nainstaluj ho prosím a spusť ji znovu.";
+    }
     return "Hra potřebuje obrazovku, ale žádný displej (DISPLAY ani WAYLAND_DISPLAY) není dostupný. "
-           "Bez monitoru ji lze spustit na virtuálním displeji: xvfb-run ./play";
+           "Bez monitoru ji lze spustit na virtuálním displeji: xvfb-run -a ./play";
 }
 
 Application::Application(int& argumentCount, char** arguments) : application(argumentCount, arguments) {

@@ -11,6 +11,15 @@
 
 namespace ui::qt {
 
+namespace {
+
+// Elsewhere, as on Wayland, nothing could be kept behind the other windows: a backdrop would cover the game.
+bool CanStackWindows() {
+    return !QGuiApplication::platformName().startsWith("wayland");
+}
+
+}  // namespace
+
 QtDesktop::~QtDesktop() {
     ended = true;  // the widgets' last events find nobody
 }
@@ -93,6 +102,7 @@ void QtDesktop::Mirror() {
     for (std::size_t place = 0; place < forms.size(); ++place) {
         const Form& form = *windows.All[place];
         if (!forms[place] && !form.Visible) continue;
+        if (form.Layout.Backdrop && !CanStackWindows()) continue;
         const bool panel = !form.Layout.Framed && !form.Layout.Backdrop;
         WidgetOf(form).Mirror(modal == nullptr || modal == &form, panel ? &WidgetOf(windows.Form1.Window) : nullptr);
     }
