@@ -105,17 +105,20 @@ TEST(QtWindows, ShowTheirPictureOrTheirPlainColour) {
     QImage drawn(1330, 1124, QImage::Format_RGB32);
     drawn.fill(Qt::darkGreen);
     drawn.setPixelColor(1329, 1123, Qt::red);
-    drawn.save(folder.filePath("picture"), "PNG");
+    drawn.save(folder.filePath("true colours"), "PNG");
+    drawn.convertToFormat(QImage::Format_Indexed8).save(folder.filePath("palette"), "PNG");
     Screen screen;
     Form& form = screen.windows.Form1.Window;
     form.Picture = folder.filePath("missing").toStdString();
     screen.Show(form);
     EXPECT_EQ(ColourAt(screen.Picture(form), {5, 5}), QColor(192, 192, 192));
-    screen.Do([&] { form.Picture = folder.filePath("picture").toStdString(); });
-    const QImage picture = screen.Picture(form);
-    EXPECT_EQ(ColourAt(picture, {5, 5}), QColor(Qt::darkGreen));
-    EXPECT_GT(picture.pixelColor(picture.width() - 1, picture.height() - 1).red(), 50);
-    EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() - 4), QColor(Qt::darkGreen));
+    for (const char* name : {"true colours", "palette"}) {
+        screen.Do([&] { form.Picture = folder.filePath(name).toStdString(); });
+        const QImage picture = screen.Picture(form);
+        EXPECT_EQ(ColourAt(picture, {5, 5}), QColor(Qt::darkGreen));
+        EXPECT_GT(picture.pixelColor(picture.width() - 1, picture.height() - 1).red(), 50);
+        EXPECT_EQ(picture.pixelColor(picture.width() - 1, picture.height() - 4), QColor(Qt::darkGreen));
+    }
 }
 
 TEST(QtWindows, BearTheirIcon) {

@@ -10,6 +10,7 @@
 
 #include "ui/input.h"
 #include "ui/qt/look.h"
+#include "ui/qt/png.h"
 #include "ui/qt/region.h"
 
 namespace ui::qt {
@@ -61,7 +62,7 @@ void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
 
 void FormWidget::MirrorLook() {
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) != form.AlwaysOnTop) setWindowFlag(Qt::WindowStaysOnTopHint, form.AlwaysOnTop);
-    if (std::exchange(mirroredIcon, form.Icon) != form.Icon) setWindowIcon(QPixmap(QString::fromStdString(form.Icon.string()), "png"));
+    if (std::exchange(mirroredIcon, form.Icon) != form.Icon) setWindowIcon(QPixmap::fromImage(ReadPng(form.Icon)));
     if (form.Region && mask().isEmpty()) setMask(ClientRegion(*form.Region, size()));
 }
 

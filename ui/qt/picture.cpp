@@ -1,17 +1,44 @@
 #include "ui/qt/picture.h"
 
-#include <QImageReader>
 #include <iostream>
+
+#include "ui/qt/png.h"
 
 namespace ui::qt {
 
 namespace {
 
+QRgb Mean(QRgb a, QRgb b, QRgb c, QRgb d) {
+    constexpr QRgb High = 0xFCFCFCFC, Low = 0x03030303;  // each channel's upper bits, and what they leave
+    const QRgb quarters = ((a & High) >> 2) + ((b & High) >> 2) + ((c & High) >> 2) + ((d & High) >> 2);
+    return quarters + (((a & Low) + (b & Low) + (c & Low) + (d & Low)) >> 2 & Low);
+}
+
+// Qt would unfold the palette first, and to touch all that memory is what takes longest.
+QImage HalfSize(const QImage& image) {
+    const QList<QRgb> colours = image.colorTable();
+    QImage half(image.size() / 2, QImage::Format_RGB32);
+    for (int y = 0; y < half.height(); ++y) {
+        const uchar* upper = image.constScanLine(2 * y);
+        const uchar* lower = image.constScanLine(2 * y + 1);
+        auto* const line = reinterpret_cast<QRgb*>(half.scanLine(y));
+        for (int x = 0; x < half.width(); ++x, upper += 2, lower += 2) {
+            line[x] = Mean(colours[upper[0]], colours[upper[1]], colours[lower[0]], colours[lower[1]]);
+        }
+    }
+    return half;
+}
+
+QImage Fit(const QImage& image, const QSize& size) {
+    if (image.size() == size) return image;
+    if (image.format() == QImage::Format_Indexed8 && image.size() == 2 * size) return HalfSize(image);
+    return image.convertToFormat(QImage::Format_RGB32).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QImage Read(const std::filesystem::path& path, const QSize& size, qreal density) {
-    // The files are named without an extension. Not to name the format would have Qt load all the formats that it knows.
-    QImage image = QImageReader(QString::fromStdString(path.string()), "png").read();
+    QImage image = ReadPng(path);
     if (image.isNull()) return image;
-    image = image.scaled((QSizeF(size) * density).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    image = Fit(image, (QSizeF(size) * density).toSize());
     image.setDevicePixelRatio(density);
     return image;
 }
