@@ -10,9 +10,10 @@ import sys
 import tempfile
 from pathlib import Path
 
-# The game stops at a message box where there is no Arial; here the face that stands in for it goes by that name.
+# The game stops at a message box where there is no Arial; here the face that stands in for it goes by that name. Its cache comes first,
+# so that the machine's own is not written.
 FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
-<fontconfig><include>/etc/fonts/fonts.conf</include><cachedir>{cache}</cachedir>
+<fontconfig><cachedir>{cache}</cachedir><include>/etc/fonts/fonts.conf</include>
 <match target="scan"><test name="family"><string>Liberation Sans</string></test>
 <edit name="family" mode="assign"><string>Arial</string></edit></match></fontconfig>"""
 
