@@ -31,7 +31,8 @@ install_packages() {
 # need PACKAGE...: installs those Debian packages that are missing.
 need() {
     local installed missing
-    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^installed //p' | sort -u)
+    # It fails where it has never heard of one of them, which is no failure here.
+    installed=$({ dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true; } | sed -n 's/^installed //p' | sort -u)
     missing=$(comm -13 <(echo "$installed") <(printf '%s\n' "$@" | sort -u) | tr '\n' ' ')
     [ -z "$missing" ] && return
     if [ "$(id -u)" != 0 ] && ! command -v sudo >/dev/null; then
