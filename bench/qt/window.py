@@ -1,0 +1,262 @@
+#!/usr/bin/env python3
+"""Measures the game's window beside a bare one, in one run on a virtual screen.
+
+    window.py BUILD_FOLDER [NAME=PROGRAM ...]
+
+Of every program: exec to the finished picture, and at idle PSS and wake-ups. Of the game and the bare window also: click on a verb to
+the echoed sentence and Enter to the reply, with few lines in the output box and with many. Starts are interleaved; the figures are
+medians, and ratios are to the bare window.
+
+The virtual screen keeps its pixels in a file that is mapped here, so watching costs the programs nothing and is the same for
+all of them: a picture is finished when it has changed and then kept still for a while. Needs Xvfb, openbox and xdotool.
+"""
+import ctypes
+import hashlib
+import mmap
+import os
+import pathlib
+import re
+import statistics
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+
+WIDTH, HEIGHT = 1280, 1024
+STARTS, CLICKS, LINES = 9, 20, 1990
+STILL, PATIENCE = 0.25, 15.0  # seconds
+IDLE = 8.0
+VERB_LIST, COMMAND_LINE, OUTPUT = "List2(0)", "Text2", "Text1"
+ROW = 16  # pixels of a list row
+VERBS = 2, 3  # "Použij" and "Vezmi": without an object each is answered with a short refusal, and not with the same one
+
+
+# The game stops at a message box where there is no Arial; here the face that stands in for it goes by that name. Its cache comes first,
+# so that the machine's own is not written.
+FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
+<fontconfig><cachedir>{cache}</cachedir><include>/etc/fonts/fonts.conf</include>
+<match target="scan"><test name="family"><string>Liberation Sans</string></test>
+<edit name="family" mode="assign"><string>Arial</string></edit></match></fontconfig>"""
+
+
+class Screen:
+    """A virtual X screen with a window manager; its pixels are read from the server's memory."""
+
+    def __init__(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", "1", "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-fbdir", self.folder.name],
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self.name = ":" + self.server.stdout.readline().decode().strip()
+        os.environ["DISPLAY"] = self.name
+        fonts = pathlib.Path(self.folder.name) / "fonts.conf"
+        fonts.write_text(FONTS.format(cache=self.folder.name), encoding="utf-8")
+        os.environ["FONTCONFIG_FILE"] = str(fonts)
+        subprocess.run(["fc-cache", "-f"], check=True)
+        self.manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+        with open(pathlib.Path(self.folder.name) / "Xvfb_screen0", "rb") as file:
+            self.memory = mmap.mmap(file.fileno(), 0, prot=mmap.PROT_READ)
+        header = struct.unpack(">25I", self.memory[:100])
+        self.stride = header[12]
+        self.start = header[0] + header[19] * 12
+        self.x11, self.test = ctypes.CDLL("libX11.so.6"), ctypes.CDLL("libXtst.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(None))
+        self.root = self.x11.XDefaultRootWindow
+        self.root.restype = ctypes.c_ulong
+        time.sleep(1)
+
+    def pixels(self, left, top, width, height, step=1):
+        rows = range(top, top + height, step)
+        return hashlib.md5(b"".join(
+            self.memory[self.start + y * self.stride + left * 4:self.start + y * self.stride + (left + width) * 4]
+            for y in rows)).digest()
+
+    def settle(self, began, area, still=STILL):
+        """Seconds from `began` to the last change before the area keeps still; None when nothing changes."""
+        last = self.before
+        changed = None
+        while True:
+            now = time.perf_counter()
+            seen = self.pixels(*area)
+            if seen != last:
+                last, changed = seen, now
+            if changed and now - changed > still:
+                return changed - began
+            if now - began > PATIENCE:
+                return None
+            time.sleep(0.0003)
+
+    def watch(self, area):
+        self.before = self.pixels(*area)
+
+    def corner(self, window):
+        """Of a window's client area; xdotool counts the frame twice."""
+        x, y, child = ctypes.c_int(), ctypes.c_int(), ctypes.c_ulong()
+        root = ctypes.c_ulong(self.root(self.display))
+        self.x11.XTranslateCoordinates(self.display, ctypes.c_ulong(window), root, 0, 0, ctypes.byref(x), ctypes.byref(y),
+                                       ctypes.byref(child))
+        return x.value, y.value
+
+    def flush(self):
+        self.x11.XSync(self.display, 0)
+
+    def click(self, x, y, pause=0.0):
+        self.test.XTestFakeMotionEvent(self.display, 0, x, y, ctypes.c_ulong(0))
+        self.flush()
+        time.sleep(pause)
+        began = time.perf_counter()
+        for down in (1, 0):
+            self.test.XTestFakeButtonEvent(self.display, 1, down, ctypes.c_ulong(0))
+        self.flush()
+        return began
+
+    def key(self, name):
+        code = self.x11.XKeysymToKeycode(self.display, ctypes.c_ulong(self.x11.XStringToKeysym(name.encode())))
+        began = time.perf_counter()
+        for down in (1, 0):
+            self.test.XTestFakeKeyEvent(self.display, code, down, ctypes.c_ulong(0))
+        self.flush()
+        return began
+
+    def close(self):
+        self.manager.terminate()
+        self.server.terminate()
+
+
+class Program:
+    def __init__(self, screen, name, path):
+        self.screen, self.name, self.path = screen, name, path
+        self.starts, self.process = [], None
+
+    def start(self):
+        whole = (0, 0, WIDTH, HEIGHT, 7)
+        self.screen.watch(whole)
+        began = time.perf_counter()
+        self.process = subprocess.Popen([self.path], stderr=subprocess.DEVNULL)
+        return self.screen.settle(began, whole)
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
+        time.sleep(0.3)
+
+    def pss(self):
+        text = pathlib.Path(f"/proc/{self.process.pid}/smaps_rollup").read_text()
+        return next(int(line.split()[1]) for line in text.splitlines() if line.startswith("Pss:")) / 1024
+
+    def wakeups(self):
+        total = 0
+        for status in pathlib.Path(f"/proc/{self.process.pid}/task").glob("*/status"):
+            total += next(int(line.split()[1]) for line in status.read_text().splitlines() if line.startswith("voluntary"))
+        return total
+
+    def idle(self):
+        time.sleep(1)
+        before = self.wakeups()
+        time.sleep(IDLE)
+        return self.pss(), (self.wakeups() - before) / IDLE
+
+
+class Window(Program):
+    """A program with the layout of the main window, whose controls can be found on the screen."""
+
+    AREAS = {}  # pixels in the client area, read from the layouts
+
+    def place(self):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)], capture_output=True, text=True)
+        for window in found.stdout.split():
+            shape = dict(line.split("=") for line in subprocess.run(
+                ["xdotool", "getwindowgeometry", "--shell", window], capture_output=True, text=True).stdout.split())
+            if int(shape["WIDTH"]) == self.AREAS["Form1"][2]:
+                self.left, self.top = self.screen.corner(int(window))
+                return
+        sys.exit(f"{self.name}: no window of the right size")
+
+    def area(self, control, border=2):
+        left, top, width, height = self.AREAS[control]
+        return self.left + left + border, self.top + top + border, width - 2 * border, height - 2 * border
+
+    def choose(self, verb, pause=0.0):
+        left, top, *_ = self.area(VERB_LIST)
+        return self.screen.click(left + 20, top + ROW * verb + ROW // 2, pause)
+
+    def reply(self, verb):
+        """A whole command: a verb, then Enter; seconds to the echo and to the reply."""
+        self.screen.watch(self.area(COMMAND_LINE))
+        echo = self.screen.settle(self.choose(verb, 0.03), self.area(COMMAND_LINE), 0.05)
+        self.screen.watch(self.area(OUTPUT))
+        return echo, self.screen.settle(self.screen.key("Return"), self.area(OUTPUT), 0.05)
+
+    def replies(self):
+        times = [self.reply(VERBS[turn % 2]) for turn in range(CLICKS)]
+        return [1000 * statistics.median(each) for each in zip(*times)]
+
+    def fill(self, lines):
+        """Two lines a reply, and room for those that are measured."""
+        for turn in range(lines // 2 - 2 * CLICKS):
+            self.choose(VERBS[turn % 2])
+            self.screen.key("Return")
+            time.sleep(0.006)
+        time.sleep(2)
+
+
+def read_layout(path):
+    """The rectangles of Form1 in pixels, from the one place where they stand."""
+    source = path.read_text()
+    rows = re.findall(r'\.Name = "([^"]+)"[^{]*?\.Bounds = \{(\d+), (\d+), (\d+), (\d+)\}', source.split("Form2Controls")[0])
+    areas = {name: tuple(int(number) // 15 for number in bounds) for name, *bounds in rows}
+    size = re.search(r'\.Name = "Form1".*?\.Width = (\d+).*?\.Height = (\d+)', source, re.S)
+    areas["Form1"] = (0, 0, int(size[1]) // 15, int(size[2]) // 15)
+    return areas
+
+
+def main():
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
+    build = pathlib.Path(sys.argv[1]).resolve()
+    Window.AREAS = read_layout(pathlib.Path(__file__).parents[2] / "ui" / "layouts.cpp")
+    screen = Screen()
+    try:
+        game, bare = Window(screen, "game", build / "game/orvel-tavoren"), Window(screen, "bare", build / "bench/qt/bare_window")
+        others = [Program(screen, *each.split("=", 1)) for each in sys.argv[2:]]
+        measure(screen, [game, bare], others)
+    finally:
+        screen.close()
+
+
+def measure(screen, windows, others):
+    for attempt in range(STARTS + 1):
+        for program in windows + others:
+            taken = program.start()
+            if attempt > 0:  # the first one fills the disk cache
+                program.starts.append(taken)
+            program.stop()
+    figures = {}
+    for program in windows + others:
+        program.start()
+        figures[program.name] = {"exec to painted, ms": 1000 * statistics.median(program.starts)}
+        pss, wakeups = program.idle()
+        figures[program.name] |= {"PSS at the title, MiB": pss, "wake-ups a second at idle": wakeups}
+        if program in windows:
+            program.place()
+            for _ in range(2):  # past the title and the introduction
+                screen.key("Return")
+                time.sleep(0.5)
+            echo, few = program.replies()
+            program.fill(LINES)
+            _, many = program.replies()
+            figures[program.name] |= {"click to echo, ms": echo, "Enter to reply, few lines, ms": few,
+                                      "Enter to reply, many lines, ms": many, "PSS after play, MiB": program.pss()}
+        program.stop()
+    names = [program.name for program in windows + others]
+    print(f"{'':34}" + "".join(f"{name:>10}" for name in names) + f"{'ratio':>10}")
+    for row in figures["game"]:
+        values = [figures[name].get(row) for name in names]
+        print(f"{row:34}" + "".join(f"{'-' if value is None else format(value, '.2f'):>10}" for value in values)
+              + f"{values[0] / values[1]:>10.2f}")
+
+
+if __name__ == "__main__":
+    main()
