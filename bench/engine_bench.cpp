@@ -1,8 +1,13 @@
 // The engine without a screen: turns, views, replies, texts, saved games and a whole game from a script.
 // What changes nothing that lasts is measured over and over on one game; the output box fills and is emptied as in real play.
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -137,6 +142,21 @@ void LoadFromDisk(benchmark::State& measured) {
     for (auto _ : measured) LoadGame(game.game, "Hra 1");
 }
 
+// A program that finds nothing to read, beside one that does nothing at all.
+void StartToExit(benchmark::State& measured, std::string program, std::string folder) {
+    std::array<char*, 3> arguments{program.data(), folder.data(), nullptr};
+    posix_spawn_file_actions_t nothingToRead{};
+    posix_spawn_file_actions_init(&nothingToRead);
+    posix_spawn_file_actions_addopen(&nothingToRead, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    for (auto _ : measured) {
+        pid_t child = 0;
+        int status = -1;
+        if (posix_spawn(&child, program.c_str(), &nothingToRead, nullptr, arguments.data(), environ) == 0) waitpid(child, &status, 0);
+        if (status != 0) measured.SkipWithError("did not run to its end");
+    }
+    posix_spawn_file_actions_destroy(&nothingToRead);
+}
+
 struct Line {
     std::string Text;
     double Microseconds;  // the fastest of all rounds
@@ -222,3 +242,5 @@ BENCHMARK(DecodeTexts)->Unit(benchmark::kMicrosecond);
 BENCHMARK(SaveToDisk)->Unit(benchmark::kMicrosecond);
 BENCHMARK(LoadFromDisk)->Unit(benchmark::kMicrosecond);
 BENCHMARK(WinningGame)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(StartToExit, replay, ORVEL_REPLAY, ORVEL_PROGRAM_FOLDER)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(StartToExit, true, "/bin/true", "")->UseRealTime()->Unit(benchmark::kMillisecond);
