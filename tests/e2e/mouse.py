@@ -116,6 +116,7 @@ def main():
     program_folder, replay = sys.argv[1:]
     for scene in (walk_to_the_corridor, leave_from_inside_a_panel):
         with stage(program_folder) as on:
+            on.start_game()
             scene(on, replay)
         print("passed:", scene.__name__)
 

@@ -19,11 +19,14 @@ class Reader:
         self.main_context = main_context
         self.told = []
         atspi.Registry.registerEventListener(self._listen, "object:text-changed")
-        self.game = wait_for("the game on the bus", self._game)
+        self.game = None
 
-    def _game(self):
+    def meets(self, name):
+        self.game = wait_for(f"{name} on the bus", lambda: self._program(name))
+
+    def _program(self, name):
         desktop = self.atspi.Registry.getDesktop(0)
-        return next((program for program in desktop if program is not None and program.name == "orvel-tavoren"), None)
+        return next((program for program in desktop if program is not None and program.name == name), None)
 
     def find(self, *wanted, within=None):
         """The first thing whose name or role is one of the wanted."""
@@ -59,14 +62,15 @@ class Reader:
 
     def hears(self, reply):
         wait_for(f"'{reply}' in the output", lambda: reply in self.read("Vyprávění"))
-        wait_for(f"the announcement of '{reply}'", lambda: self._announced(reply))
+        wait_for(f"the announcement of '{reply}'", lambda: self.announced(reply))
 
     def _listen(self, event):
         if ":insert" in str(event.type):
             self.told.append(str(event.any_data))
 
-    def _announced(self, reply):
-        self.main_context.iteration(False)
+    def announced(self, reply):
+        while self.main_context.iteration(False):
+            pass
         return any(reply in text for text in self.told)
 
 
@@ -102,7 +106,11 @@ def main():
         import pyatspi  # it looks for the bus as soon as it is imported, and finds it through the display
         from gi.repository import GLib
 
-        play(Reader(pyatspi, GLib.MainContext.default()))
+        # Whoever needs a screen reader has it running first; a game that starts beside it may miss that somebody listens.
+        reader = Reader(pyatspi, GLib.MainContext.default())
+        on.start_game()
+        reader.meets("orvel-tavoren")
+        play(reader)
         assert on.exit_code() == 0
 
 

@@ -1,4 +1,4 @@
-"""A screen of its own with a window manager, and the game on it, in a copy of its program folder."""
+"""A screen of its own with a window manager, and a copy of the game's program folder to start the game from."""
 
 import contextlib
 import os
@@ -38,12 +38,14 @@ def end(process):
 
 class Stage:
     def __init__(self, program_folder, settings, running):
+        self.running = running
         folder = running.enter_context(tempfile.TemporaryDirectory(prefix="orvel-e2e-"))
         self.program_folder = Path(folder) / "game"
         shutil.copytree(program_folder, self.program_folder)
         reader, writer = os.pipe()
-        start(["Xvfb", "-screen", "0", f"{SCREEN[0]}x{SCREEN[1]}x24", "-displayfd", str(writer), "-nolisten", "tcp"], running,
-              pass_fds=[writer], stderr=subprocess.DEVNULL)
+        # A server that starts anew when its first client leaves would take the window manager with it.
+        start(["Xvfb", "-screen", "0", f"{SCREEN[0]}x{SCREEN[1]}x24", "-displayfd", str(writer), "-nolisten", "tcp", "-noreset"],
+              running, pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
         with open(reader, encoding="ascii") as numbers:
             display = ":" + numbers.readline().strip()
@@ -52,12 +54,14 @@ class Stage:
         self.environment |= {"DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": folder} | settings
         start(["openbox", "--sm-disable"], running, env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for("the window manager", self._managed)
-        self.game = start([self.program_folder / "orvel-tavoren"], running, env=self.environment)
 
     def _managed(self):
         # Whoever answers for desktops has taken the screen over.
         answer = subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True, text=True, check=False)
         return answer.returncode == 0 and answer.stdout.strip().isdigit()
+
+    def start_game(self):
+        self.game = start([self.program_folder / "orvel-tavoren"], self.running, env=self.environment)
 
     def xdotool(self, *arguments):
         answer = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True, check=False)
