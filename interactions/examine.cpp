@@ -10,6 +10,12 @@ namespace {
 
 using enum Item;
 
+// The story goes on once this has been read or seen.
+void TellAndNote(Game& game, TextNumber text, Boolean& seen) {
+    Tell(game, text);
+    seen = True;
+}
+
 void ExamineCabinWardrobe(Game& game) {
     enum : TextNumber { Closed = 20, Open = 21 };
     if (game.state.CabinWardrobeOpen == False) return Tell(game, Closed);
@@ -154,16 +160,6 @@ void ExamineCaptainDesk(Game& game) {
     }
 }
 
-void ExamineDocuments(Game& game) {
-    Tell(game, 136);
-    game.state.DocumentsRead = True;
-}
-
-void ExamineDocuments2(Game& game) {
-    Tell(game, 137);
-    game.state.Documents2Read = True;
-}
-
 void ExamineHangarTerminal(Game& game) {
     enum : TextNumber { Looks = 102, Dead = 109, Opened = 114, CoverOff = 115 };
     Tell(game, Looks);
@@ -183,11 +179,6 @@ void ExaminePersonnel(Game& game) {
     Place(game, DeadVega);
 }
 
-void ExamineMessage(Game& game) {
-    Tell(game, 254);
-    game.state.ReportRead = True;
-}
-
 void ExamineCart(Game& game) {
     enum : TextNumber { Looks = 107, BombOnIt = 259 };
     Tell(game, Looks);
@@ -201,11 +192,6 @@ void ExamineDeadVega(Game& game) {
     Tell(game, ThingsOnHim);
     AddItemToSector(game, game.state.CurrentSector, Detonator, Redraw::No);
     Place(game, Message);
-}
-
-void ExamineArsenal(Game& game) {
-    Tell(game, 123);
-    game.state.ArsenalExamined = True;
 }
 
 void ExamineOldDoor(Game& game) {
@@ -248,14 +234,14 @@ void DoExamine(Game& game, Item item) {
         case OperatingTerminal: return ExamineOperatingTerminal(game);
         case CaptainWardrobe: return ExamineCaptainWardrobe(game);
         case CaptainDesk: return ExamineCaptainDesk(game);
-        case Documents: return ExamineDocuments(game);
-        case Documents2: return ExamineDocuments2(game);
+        case Documents: return TellAndNote(game, 136, game.state.DocumentsRead);
+        case Documents2: return TellAndNote(game, 137, game.state.Documents2Read);
         case HangarTerminal: return ExamineHangarTerminal(game);
         case HangarPersonnel: return ExaminePersonnel(game);
-        case Message: return ExamineMessage(game);
+        case Message: return TellAndNote(game, 254, game.state.ReportRead);
         case Cart: return ExamineCart(game);
         case DeadVega: return ExamineDeadVega(game);
-        case Arsenal: return ExamineArsenal(game);
+        case Arsenal: return TellAndNote(game, 123, game.state.ArsenalExamined);
         case OldDoor: return ExamineOldDoor(game);
         case BrokenTerminal: return ExamineBrokenTerminal(game);
         default: return;  // nothing to see

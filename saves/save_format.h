@@ -24,5 +24,5 @@ Bytes EncodeSave(const GameState& state, std::string_view name, SaveKeys keys);
 // Throws GameError when the file is damaged.
 std::optional<GameState> DecodeSave(std::span<const std::uint8_t> file, std::string_view name, const GameState& current);
 
-// No saved game is longer; what a file holds beyond is not read.
+// No saved game is longer; what a file holds beyond is not read. 119 words stand beside the characters and the items.
 constexpr std::size_t MostSaveBytes = std::size_t{2} * (INT16_MAX + 119 + LastSector * INT16_MAX + INT16_MAX);

@@ -37,14 +37,6 @@ bool Text1_KeyPress(Game& game, char32_t key) {
     return true;
 }
 
-void Text1_Change(Game& game) {
-    game.windows.Form4.Label1.SetTextColour(ui::PaleCyan);
-}
-
-void Text1_GotFocus(Game& game) {
-    game.windows.Form4.Text1.SetCaretShape({.Width = 1, .Height = 7});
-}
-
 void List1_Click(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     panel.Text1.SetText(panel.List1.SelectedEntry());
@@ -57,18 +49,14 @@ bool List1_KeyPress(Game& game, char32_t key) {
     return true;
 }
 
-void Label2_Click(Game& game) {
-    ReadCom(game);
-}
-
 }  // namespace
 
 void ConnectForm4(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     panel.List1.Click = [&game] { List1_Click(game); };
     panel.List1.KeyPress = [&game](char32_t key) { return List1_KeyPress(game, key); };
-    panel.Text1.GotFocus = [&game] { Text1_GotFocus(game); };
-    panel.Text1.Change = [&game] { Text1_Change(game); };
+    panel.Text1.GotFocus = [&panel] { panel.Text1.SetCaretShape(ui::InputCaret); };
+    panel.Text1.Change = [&panel] { panel.Label1.SetTextColour(ui::PaleCyan); };
     panel.Text1.KeyPress = [&game](char32_t key) { return Text1_KeyPress(game, key); };
-    panel.Label2.Click = [&game] { Label2_Click(game); };
+    panel.Label2.Click = [&game] { ReadCom(game); };
 }
