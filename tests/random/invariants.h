@@ -1,10 +1,6 @@
 // What holds of the game between two events, whatever the player does.
 #pragma once
 
-#include <string>
-#include <variant>
-#include <vector>
-
 #include "core/game.h"
 #include "ui/memory_desktop.h"
 
@@ -18,30 +14,3 @@ void ExpectShutDoorsToStopThePlayer(const GameState& state);
 void ExpectOnlyProgress(const GameState& before, const GameState& now);
 
 void ExpectTheSame(const GameState& before, const GameState& now);
-
-// A desktop's view of the windows: it copies only what the change counters tell it to, and must never be out of date.
-class Mirror {
-public:
-    explicit Mirror(const ui::Windows& windows);
-
-    void Follow();
-
-    // Grows with every change of any control.
-    std::uint64_t Changes() const;
-
-private:
-    struct Copy {
-        ui::Control Original;
-        std::uint64_t Changes = 0, Replacements = 0;
-        std::string Text;  // or the caption
-        std::vector<std::string> Entries;
-        std::size_t Caret = 0;
-        int Selected = -1;
-    };
-
-    static void Follow(Copy& copy, const ui::TextBox& box);
-    static void Follow(Copy& copy, const ui::ListBox& list);
-    static void Follow(Copy& copy, const ui::Label& label);
-
-    std::vector<Copy> copies;
-};

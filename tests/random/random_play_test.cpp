@@ -11,7 +11,9 @@
 #include "app/start_up.h"
 #include "core/stages.h"
 #include "core/verbs.h"
+#include "tests/play.h"
 #include "tests/random/invariants.h"
+#include "tests/random/mirror.h"
 #include "tests/random/random_player.h"
 
 namespace fs = std::filesystem;
@@ -26,17 +28,12 @@ int Setting(const char* name, int otherwise) {
     return value == nullptr ? otherwise : std::atoi(value);
 }
 
-// A program folder of its own, where every game of the run saves and loads.
-struct ProgramFolder {
-    ProgramFolder() {
-        std::string name = fs::temp_directory_path() / "orvel-XXXXXX";
-        Path = ::mkdtemp(name.data());
-        fs::create_directories(Path / "data" / "saves");
-        fs::create_symlink(ORVEL_TEXTS_FILE, Path / "data" / "texs.dat");
-    }
-    ~ProgramFolder() { fs::remove_all(Path); }
-    fs::path Path;
-};
+// Where every game of the run saves and loads.
+fs::path MakeProgramFolder(const TemporaryFolder& folder) {
+    fs::create_directories(folder.Path / "data" / "saves");
+    fs::create_symlink(ORVEL_TEXTS_FILE, folder.Path / "data" / "texs.dat");
+    return folder.Path;
+}
 
 using Lines = std::vector<std::string>;
 
@@ -145,7 +142,8 @@ private:
 };
 
 TEST(RandomPlay, KeepsTheGameSound) {
-    const ProgramFolder folder;
+    const TemporaryFolder temporary;
+    const fs::path folder = MakeProgramFolder(temporary);
     const std::vector<Lines> walkthroughs = Walkthroughs();
     ASSERT_FALSE(walkthroughs.empty());
     RandomPlayer player(static_cast<std::uint64_t>(Setting("ORVEL_RANDOM_SEED", 1)));
@@ -156,7 +154,7 @@ TEST(RandomPlay, KeepsTheGameSound) {
             opening = walkthroughs[static_cast<std::size_t>(player.Below(static_cast<int>(walkthroughs.size())))];
             opening.resize(static_cast<std::size_t>(player.Below(static_cast<int>(opening.size()))));
         }
-        left -= RandomGame(player, folder.Path, std::move(opening)).Play(EventsOfAGame);
+        left -= RandomGame(player, folder, std::move(opening)).Play(EventsOfAGame);
     }
 }
 
