@@ -9,9 +9,6 @@ orvel_library(ui/qt orvel_ui Qt6::Widgets PNG::PNG xcb)
 # Pictures are drawn at twice their window's size, to stay sharp on dense screens, and with a palette, for the game to open sooner.
 # It knows them by names without an extension.
 function(orvel_picture name width height)
-    if(NOT EXISTS ${PROJECT_SOURCE_DIR}/art/${name}.svg)
-        return()
-    endif()
     math(EXPR width "2 * ${width}")
     math(EXPR height "2 * ${height}")
     set(picture ${program_folder}/data/pics/${name})
@@ -40,12 +37,10 @@ set_property(GLOBAL APPEND PROPERTY orvel_pictures ${program_folder}/data/pics/i
 get_property(pictures GLOBAL PROPERTY orvel_pictures)
 add_custom_target(pictures ALL DEPENDS ${pictures})
 
-if(EXISTS ${PROJECT_SOURCE_DIR}/app/main.cpp)
-    add_executable(orvel-tavoren app/main.cpp)
-    target_link_libraries(orvel-tavoren PRIVATE orvel_app orvel_ui_qt)
-    set_target_properties(orvel-tavoren PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${program_folder})
-    add_dependencies(orvel-tavoren pictures story)
-endif()
+add_executable(orvel-tavoren app/main.cpp)
+target_link_libraries(orvel-tavoren PRIVATE orvel_app orvel_ui_qt)
+set_target_properties(orvel-tavoren PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${program_folder})
+add_dependencies(orvel-tavoren pictures story)
 
 if(ORVEL_TESTS)
     add_subdirectory(bench/qt)
