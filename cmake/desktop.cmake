@@ -19,7 +19,8 @@ function(orvel_picture name width height)
         COMMAND ${PNGQUANT} --strip --speed 1 --force --output ${picture} 256 ${drawn}
         DEPENDS art/${name}.svg art/alcaster.svg art/lettering.svg art/parts.svg art/steel.css
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-        COMMENT "Drawing ${name}")
+        COMMENT "Drawing ${name}"
+        VERBATIM)
     set_property(GLOBAL APPEND PROPERTY orvel_pictures ${picture})
 endfunction()
 
@@ -32,7 +33,8 @@ add_custom_command(OUTPUT ${program_folder}/data/pics/icon
     COMMAND ${RSVG_CONVERT} --width 32 --height 32 --output ${program_folder}/data/pics/icon art/icon.svg
     DEPENDS art/icon.svg
     WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-    COMMENT "Drawing the icon")
+    COMMENT "Drawing the icon"
+    VERBATIM)
 set_property(GLOBAL APPEND PROPERTY orvel_pictures ${program_folder}/data/pics/icon)
 get_property(pictures GLOBAL PROPERTY orvel_pictures)
 add_custom_target(pictures ALL DEPENDS ${pictures})

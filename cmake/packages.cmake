@@ -17,7 +17,8 @@ foreach(size 16 24 32 48 64 128 256 512)
         COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${icon} art/icon.svg
         DEPENDS art/icon.svg
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-        COMMENT "Drawing the icon at ${size}")
+        COMMENT "Drawing the icon at ${size}"
+        VERBATIM)
     list(APPEND icons ${icon})
     install(FILES ${icon} DESTINATION share/icons/hicolor/${size}x${size}/apps COMPONENT deb EXCLUDE_FROM_ALL)
 endforeach()
