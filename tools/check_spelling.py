@@ -14,6 +14,7 @@ SOURCE_FOLDERS = ["ui", "core", "terminal", "interactions", "saves", "commands",
 CZECH_DOCUMENTS = ["story/*.txt", "docs/*.md", "packaging/man/cs/*.6"]
 WHOLLY_CZECH = [Path("core/items.cpp")]  # where a literal without a Czech letter is Czech too
 WORD_LIST = "story/words.txt"
+NOT_CZECH = [WORD_LIST, "docs/measurements.md"]
 
 WORD = re.compile(r"[^\W\d_]+")
 CZECH_LETTER = re.compile(r"[áčďéěíňóřšťúůýž]", re.IGNORECASE)
@@ -49,7 +50,7 @@ def czech_lines(root):
                     yield from ((name, number, text) for number, text in parts)
     for pattern in CZECH_DOCUMENTS:
         for path in sorted(root.glob(pattern)):
-            if path == root / WORD_LIST:
+            if path.relative_to(root).as_posix() in NOT_CZECH:
                 continue
             for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
                 yield path.relative_to(root), number, line
