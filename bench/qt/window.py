@@ -4,7 +4,7 @@
     window.py BUILD_FOLDER [NAME=PROGRAM ...]
 
 Of every program: exec to the finished picture, and at idle PSS and wake-ups. Of the game and the bare window also: click on a verb to
-the echoed sentence and Enter to the reply, with few lines in the output box and with many. Starts are interleaved; the figures are
+the echoed sentence and Enter to the reply, with few lines in the output box and with many. The programs take turns; the figures are
 medians, and ratios are to the bare window. Needs what screen.py needs, and xdotool.
 """
 import pathlib
@@ -16,8 +16,9 @@ import time
 
 from screen import HEIGHT, WIDTH, Screen
 
-STARTS, CLICKS, LINES = 9, 20, 1990
-IDLE = 8.0
+STARTS, LIVES, CLICKS, LINES = 31, 3, 20, 1990
+IDLE = 8.0  # seconds
+PAINTED = "exec to painted, ms"
 VERB_LIST, COMMAND_LINE, OUTPUT = "List2(0)", "Text2", "Text1"
 ROW = 16  # pixels of a list row
 VERBS = 2, 3  # "Použij" and "Vezmi": without an object each is answered with a short refusal, and not with the same one
@@ -26,7 +27,10 @@ VERBS = 2, 3  # "Použij" and "Vezmi": without an object each is answered with a
 class Program:
     def __init__(self, screen, name, path):
         self.screen, self.name, self.path = screen, name, path
-        self.starts, self.process = [], None
+        self.figures, self.process = {}, None
+
+    def note(self, row, value):
+        self.figures.setdefault(row, []).append(value)
 
     def start(self):
         whole = (0, 0, WIDTH, HEIGHT, 7)
@@ -50,11 +54,12 @@ class Program:
             total += next(int(line.split()[1]) for line in status.read_text().splitlines() if line.startswith("voluntary"))
         return total
 
-    def idle(self):
+    def live(self):
         time.sleep(1)
         before = self.wakeups()
         time.sleep(IDLE)
-        return self.pss(), (self.wakeups() - before) / IDLE
+        self.note("PSS at the title, MiB", self.pss())
+        self.note("wake-ups a second at idle", (self.wakeups() - before) / IDLE)
 
 
 class Window(Program):
@@ -87,9 +92,11 @@ class Window(Program):
         self.screen.watch(self.area(OUTPUT))
         return echo, self.screen.settle(self.screen.key("Return"), self.area(OUTPUT), 0.05)
 
-    def replies(self):
-        times = [self.reply(VERBS[turn % 2]) for turn in range(CLICKS)]
-        return [1000 * statistics.median(each) for each in zip(*times)]
+    def replies(self, box):
+        for turn in range(CLICKS):
+            echo, reply = self.reply(VERBS[turn % 2])
+            self.note("click to echo, ms", 1000 * echo)
+            self.note(f"Enter to reply, {box}, ms", 1000 * reply)
 
     def fill(self, lines):
         """Two lines a reply, and room for those that are measured."""
@@ -98,6 +105,17 @@ class Window(Program):
             self.screen.key("Return")
             time.sleep(0.006)
         time.sleep(2)
+
+    def live(self):
+        super().live()
+        self.place()
+        for _ in range(2):  # past the title and the introduction
+            self.screen.key("Return")
+            time.sleep(0.5)
+        self.replies("few lines")
+        self.fill(LINES)
+        self.replies("many lines")
+        self.note("PSS after play, MiB", self.pss())
 
 
 def read_layout(path):
@@ -119,39 +137,26 @@ def main():
     try:
         game, bare = Window(screen, "game", build / "game/orvel-tavoren"), Window(screen, "bare", build / "bench/qt/bare_window")
         others = [Program(screen, *each.split("=", 1)) for each in sys.argv[2:]]
-        measure(screen, [game, bare], others)
+        measure([game, bare, *others])
     finally:
         screen.close()
 
 
-def measure(screen, windows, others):
+def measure(programs):
     for attempt in range(STARTS + 1):
-        for program in windows + others:
+        for program in programs:
             taken = program.start()
             if attempt > 0:  # the first one fills the disk cache
-                program.starts.append(taken)
+                program.note(PAINTED, 1000 * taken)
             program.stop()
-    figures = {}
-    for program in windows + others:
-        program.start()
-        figures[program.name] = {"exec to painted, ms": 1000 * statistics.median(program.starts)}
-        pss, wakeups = program.idle()
-        figures[program.name] |= {"PSS at the title, MiB": pss, "wake-ups a second at idle": wakeups}
-        if program in windows:
-            program.place()
-            for _ in range(2):  # past the title and the introduction
-                screen.key("Return")
-                time.sleep(0.5)
-            echo, few = program.replies()
-            program.fill(LINES)
-            _, many = program.replies()
-            figures[program.name] |= {"click to echo, ms": echo, "Enter to reply, few lines, ms": few,
-                                      "Enter to reply, many lines, ms": many, "PSS after play, MiB": program.pss()}
-        program.stop()
-    names = [program.name for program in windows + others]
-    print(f"{'':34}" + "".join(f"{name:>10}" for name in names) + f"{'ratio':>10}")
-    for row in figures["game"]:
-        values = [figures[name].get(row) for name in names]
+    for _ in range(LIVES):
+        for program in programs:
+            program.start()
+            program.live()
+            program.stop()
+    print(f"{'':34}" + "".join(f"{program.name:>10}" for program in programs) + f"{'ratio':>10}")
+    for row in programs[0].figures:
+        values = [statistics.median(program.figures[row]) if row in program.figures else None for program in programs]
         print(f"{row:34}" + "".join(f"{'-' if value is None else format(value, '.2f'):>10}" for value in values)
               + f"{values[0] / values[1]:>10.2f}")
 
