@@ -7,6 +7,8 @@ Usage: screen_reader.py PROGRAM_FOLDER, on a session bus of its own (dbus-run-se
 import os
 import sys
 
+from gi.repository import GLib
+
 from stage import stage, wait_for
 
 ROLES = {"Vyprávění": "text", "Sestavený příkaz": "text", "Neseš": "list", "Slovesa": "list", "První předmět": "list",
@@ -29,13 +31,16 @@ class Reader:
         return next((program for program in desktop if program is not None and program.name == name), None)
 
     def find(self, *wanted, within=None):
-        """The first thing whose name or role is one of the wanted."""
-        for thing in within or self.game:
-            if thing is None:
-                continue
-            found = thing if thing.name in wanted or thing.getRoleName() in wanted else self.find(*wanted, within=thing)
-            if found is not None:
-                return found
+        """The first thing whose name or role is one of the wanted; none while a window goes away under the search."""
+        try:
+            for thing in within or self.game:
+                if thing is None:
+                    continue
+                found = thing if thing.name in wanted or thing.getRoleName() in wanted else self.find(*wanted, within=thing)
+                if found is not None:
+                    return found
+        except GLib.GError:
+            pass
         return None
 
     def press(self, thing):
@@ -62,13 +67,13 @@ class Reader:
 
     def hears(self, reply):
         wait_for(f"'{reply}' in the output", lambda: reply in self.read("Vyprávění"))
-        wait_for(f"the announcement of '{reply}'", lambda: self.announced(reply))
+        wait_for(f"the announcement of '{reply}'", lambda: self._announced(reply))
 
     def _listen(self, event):
         if ":insert" in str(event.type):
             self.told.append(str(event.any_data))
 
-    def announced(self, reply):
+    def _announced(self, reply):
         while self.main_context.iteration(False):
             pass
         return any(reply in text for text in self.told)
@@ -78,6 +83,7 @@ def play(reader):
     first = wait_for("the first window", lambda: reader.find("POZOR!", "Orvel Tavoren v1.01"))
     if first.name == "POZOR!":  # no Arial here
         reader.press(wait_for("its button", lambda: reader.find("push button", within=first)))
+        wait_for("the warning to go", lambda: reader.find("POZOR!") is None)
     wait_for("the main window", lambda: reader.find("Sestavený příkaz"))
     for name, role in ROLES.items():
         control = reader.find(name)
@@ -104,7 +110,6 @@ def main():
     with stage(sys.argv[1], {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}) as on:
         os.environ["DISPLAY"] = on.environment["DISPLAY"]
         import pyatspi  # it looks for the bus as soon as it is imported, and finds it through the display
-        from gi.repository import GLib
 
         # Whoever needs a screen reader has it running first; a game that starts beside it may miss that somebody listens.
         reader = Reader(pyatspi, GLib.MainContext.default())
