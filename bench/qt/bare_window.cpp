@@ -6,15 +6,13 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <array>
 
-#include "ui/layouts.h"
+#include "ui/windows.h"
 
 namespace {
 
+// These are not those of the game's own Qt desktop: it is not to be linked into what it is measured against.
 constexpr int RowHeight = 16;
-constexpr std::array Verbs{"Jdi",   "Prozkoumej", "Použij",        "Vezmi",       "Polož", "Otevři", "Zavři",
-                           "Oslov", "Vymaž",      "Nahraj pozici", "Ulož pozici", "Verze", "Exit"};
 
 QRect Pixels(const ui::Rect& twips) {
     return {twips.Left / ui::TwipsPerPixel, twips.Top / ui::TwipsPerPixel, twips.Width / ui::TwipsPerPixel,
@@ -74,8 +72,9 @@ int main(int argc, char** argv) {
         }
         Dress(*widget, layout);
     }
-    for (const char* verb : Verbs) {
-        verbs->addItem(verb);
+    const ui::MainWindow model;
+    for (const std::string& verb : model.List2[0].Entries()) {
+        verbs->addItem(QString::fromStdString(verb));
         verbs->item(verbs->count() - 1)->setSizeHint({0, RowHeight});
     }
     QObject::connect(verbs, &QListWidget::itemPressed, input, [input](const QListWidgetItem* item) { input->setText(item->text()); });

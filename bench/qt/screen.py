@@ -58,7 +58,7 @@ class Screen:
             for y in rows)).digest()
 
     def settle(self, began, area, still=STILL):
-        """Seconds from `began` to the last change before the area keeps still; None when nothing changes."""
+        """Seconds from `began` to the last change before the area keeps still."""
         last = self.before
         changed = None
         while True:
@@ -69,7 +69,7 @@ class Screen:
             if changed and now - changed > still:
                 return changed - began
             if now - began > PATIENCE:
-                return None
+                raise TimeoutError("the screen " + ("never changed" if changed is None else "never kept still"))
             time.sleep(0.0003)
 
     def watch(self, area):

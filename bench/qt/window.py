@@ -20,7 +20,7 @@ STARTS, LIVES, CLICKS, LINES = 31, 3, 20, 1990
 IDLE = 8.0  # seconds
 PAINTED = "exec to painted, ms"
 VERB_LIST, COMMAND_LINE, OUTPUT = "List2(0)", "Text2", "Text1"
-ROW = 16  # pixels of a list row
+BORDER, ROW = 2, 16  # pixels around a control that are not watched, and of a list row
 VERBS = 2, 3  # "Použij" and "Vezmi": without an object each is answered with a short refusal, and not with the same one
 
 
@@ -77,9 +77,9 @@ class Window(Program):
                 return
         sys.exit(f"{self.name}: no window of the right size")
 
-    def area(self, control, border=2):
+    def area(self, control):
         left, top, width, height = self.AREAS[control]
-        return self.left + left + border, self.top + top + border, width - 2 * border, height - 2 * border
+        return self.left + left + BORDER, self.top + top + BORDER, width - 2 * BORDER, height - 2 * BORDER
 
     def choose(self, verb, pause=0.0):
         left, top, *_ = self.area(VERB_LIST)
