@@ -1,0 +1,22 @@
+# What emscripten compiles: programs for node, and the game as a page.
+
+# Node's own files, read and written at once, as a program sees them.
+function(orvel_node_program target)
+    target_link_options(${target} PRIVATE
+        -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH -sWASM_ASYNC_COMPILATION=0
+        --js-library ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
+endfunction()
+
+orvel_node_program(pack_texts)
+orvel_node_program(replay)
+# Started as the native player is.
+file(CONFIGURE OUTPUT replay NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
+exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "${0%/*}/replay.js" "$@"
+]])
+file(CHMOD ${PROJECT_BINARY_DIR}/replay PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+include(cmake/pictures.cmake)
+if(EXISTS ${PROJECT_SOURCE_DIR}/ui/web/CMakeLists.txt)
+    add_subdirectory(ui/web)
+endif()
