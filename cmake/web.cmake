@@ -11,10 +11,11 @@ endfunction()
 orvel_node_program(pack_texts)
 orvel_node_program(replay)
 # Started as the native player is.
-file(CONFIGURE OUTPUT replay NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
-exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "${0%/*}/replay.js" "$@"
+set(headless_player ${PROJECT_BINARY_DIR}/replay)
+file(CONFIGURE OUTPUT ${headless_player} NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
+exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "$(dirname "$0")/replay.js" "$@"
 ]])
-file(CHMOD ${PROJECT_BINARY_DIR}/replay PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+file(CHMOD ${headless_player} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 include(cmake/pictures.cmake)
 if(EXISTS ${PROJECT_SOURCE_DIR}/ui/web/CMakeLists.txt)
