@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Holds the sources to the arrows between the folders.
 
-A file includes its own folder and the folders below it, only the Qt desktop and what measures or tests it include Qt, only
-the page's desktop includes Emscripten, and the files (a header and its .cpp count as one) have no cycle. Prints FILE:LINE: REASON for each breach and ends with 1.
+A file includes its own folder and the folders below it, only the Qt desktop and what measures or tests it include Qt,
+only the page's desktop includes Emscripten, and the files (a header and its .cpp count as one) have no cycle. Prints
+FILE:LINE: REASON for each breach and ends with 1.
 """
 
 import re

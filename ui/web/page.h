@@ -51,4 +51,7 @@ std::size_t CountOutputLines(Place place);
 // Whether the text looks and runs as Arial does.
 bool HasArial();
 
+// The browser's own random numbers in [0, 1).
+double Random();
+
 }  // namespace ui::web::page

@@ -6,8 +6,8 @@ export class InputLine {
     #page;
     #place;
     #input = document.createElement("input");
-    #caret = document.createElement("span");
-    #beforeCaret = document.createElement("span");
+    #beforeCaret = document.createTextNode("");
+    #ruler = document.createElement("div");
     #composing = false;
     #shown = { text: "", caret: 0 };
 
@@ -20,13 +20,20 @@ export class InputLine {
         this.#input.setAttribute("autocapitalize", "off");
         this.#input.setAttribute("autocorrect", "off");
         this.#input.setAttribute("aria-label", layout.spoken);
-        const ruler = document.createElement("div");
-        ruler.className = "ruler";
-        ruler.setAttribute("aria-hidden", "true");
-        this.#caret.className = "caret";
-        ruler.append(this.#beforeCaret, this.#caret);
-        this.element.append(this.#input, ruler);
+        this.element.append(this.#input, this.#newCaret());
         this.#listen();
+    }
+
+    // The browser's own caret has no shape. This one stands behind an unseen copy of the text before it.
+    #newCaret() {
+        const caret = document.createElement("span");
+        caret.className = "caret";
+        this.#ruler.append(this.#beforeCaret, caret);
+        const frame = document.createElement("div");
+        frame.className = "ruler";
+        frame.setAttribute("aria-hidden", "true");
+        frame.append(this.#ruler);
+        return frame;
     }
 
     #listen() {
@@ -75,8 +82,8 @@ export class InputLine {
     }
 
     #placeCaret() {
-        this.#beforeCaret.textContent = this.#input.value.slice(0, this.#input.selectionEnd);
-        this.#beforeCaret.style.marginLeft = this.#input.scrollLeft > 0 ? `${-this.#input.scrollLeft}px` : "";
+        this.#beforeCaret.data = this.#input.value.slice(0, this.#input.selectionEnd);
+        this.#ruler.style.marginLeft = `${-this.#input.scrollLeft}px`;
     }
 
     focus() {
