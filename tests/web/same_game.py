@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Plays one random game after another in the native headless player and in the compiled one, and holds each answer of the one to the other's.
+"""Plays random games in the native headless player and in the compiled one, and holds each answer of the one to the other's.
 
     same_game.py NATIVE_REPLAY WEB_REPLAY PROGRAM_FOLDER [EVENTS [SEED]]
 
@@ -23,6 +23,7 @@ TYPED = {
     "Form3": ["0123458", "4170526", "12"],
     "Form4": ["a", "b", "Hra 1", "Hra 2", "žluť", "ŽLUŤ", "x.y", "b/c", "☃", "exit", "exit", "dlouhé" * 60],
 }
+NUMBERS = ["0.999999999", ".5e-3", "5e-1", "1e-310", "1e-400", "0x1p-3", "+0", "-0", "0.5a", "1", "nan", "."]
 ENTER = {"Form2": "Form2.Text2", "Form3": "Form3.Text1", "Form4": "Form4.Text1"}
 
 
@@ -52,8 +53,7 @@ def senseless(dice, forms):
     form = dice.choice(list(forms))
     control = dice.choice([control for control in forms[form]["controls"] if (form, control) != ("Form4", "List1")] or [""])
     return dice.choice([f"focus {form}", f"focus {form}.{control}", f"click {form}.{control}", f"click {form}.{control} {dice.randint(-1, 9)}",
-                        f"key {form}.{control} {dice.choice(['Backspace', 'Enter', 'ž', '☃', '7'])}", "random 0.999999999 .5e-3 1e-400 0x1 +0",
-                        "random 0.999999999 0 5e-1", f"close {dice.choice(['Form2', 'Form3', 'Form4', 'Form5'])}"])
+                        f"key {form}.{control} {dice.choice(['Backspace', 'Enter', 'ž', '☃', '7'])}", f"close {form if form != 'Form1' else 'Form2'}"])
 
 
 def next_event(dice, screen):
@@ -94,7 +94,7 @@ def same(native, web):
 def play_a_game(dice, programs, folders):
     """Returns how many events were played after the opening."""
     opening = [line for line in dice.choice(WALKTHROUGHS).read_text(encoding="utf-8").splitlines() if line and not line.startswith("#")]
-    opening = opening[:dice.randrange(len(opening))]
+    opening = [f"random {number}" for number in NUMBERS] + opening[:dice.randrange(len(opening))]
     played = ["random " + " ".join(str(dice.random()) for _ in range(2 * EVENTS_OF_A_GAME + len(opening)))]
     players = [Player(program, folder) for program, folder in zip(programs, folders)]
     event, told = played[0], 1 + len(opening)
@@ -118,7 +118,7 @@ def saved_in(folder):
 
 def main():
     programs, program_folder = sys.argv[1:3], pathlib.Path(sys.argv[3])
-    events, seed = (int(given) for given in (sys.argv[4:] + ["1500", "1"][len(sys.argv) - 4:]))
+    events, seed = (int(given) for given in (sys.argv[4:] + ["1000", "1"][len(sys.argv) - 4:]))
     if not pathlib.Path(programs[0]).exists():
         sys.exit(f"{programs[0]} is missing: build the preset \"release\" first")
     dice = random.Random(seed)
