@@ -9,6 +9,7 @@ export class InputLine {
     #beforeCaret = document.createTextNode("");
     #ruler = document.createElement("div");
     #composing = false;
+    #keyTold = false;  // whether a key came before the edit that it makes
     #shown = { text: "", caret: 0 };
 
     constructor(layout, place, page) {
@@ -53,15 +54,18 @@ export class InputLine {
         });
     }
 
-    // The keyboards of phones tell no keys, only what they type.
-    announce(character) {
+    #announce(character) {
+        this.#keyTold = character >= 32;
         this.#page.keySwallowed = false;
         this.#page.events.post(EventKind.Key, this.#place, { number: character });
     }
 
-    // By now the program has answered to the key.
+    // By now the program has answered to the key. The keyboards of phones tell no keys, only what they type.
     #beforeInput(event) {
-        if (event.inputType === "insertText" && this.#page.keySwallowed) event.preventDefault();
+        if (!event.inputType.startsWith("insert") || event.inputType === "insertFromPaste") return;
+        if (!this.#keyTold && event.data) this.#announce([...event.data].at(-1).codePointAt(0));
+        else if (this.#page.keySwallowed && event.cancelable) event.preventDefault();
+        this.#keyTold = false;
     }
 
     #report() {
@@ -92,9 +96,9 @@ export class InputLine {
 
     keyDown(event, character) {
         if (character === 0) return false;
-        if (document.activeElement !== this.#input) this.focus();
+        if (!this.#input.readOnly && document.activeElement !== this.#input) this.focus();
         if (this.#input.readOnly || character < 32 && event.key !== "Backspace") event.preventDefault();
-        this.announce(character);
+        this.#announce(character);
         return true;
     }
 }
