@@ -18,6 +18,16 @@ exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "$(dirname "$0")/replay.js" "$@"
 file(CHMOD ${headless_player} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 include(cmake/pictures.cmake)
-if(EXISTS ${PROJECT_SOURCE_DIR}/ui/web/CMakeLists.txt)
-    add_subdirectory(ui/web)
-endif()
+add_subdirectory(ui/web)
+
+# A folder for a web server, and the one file.
+install(DIRECTORY ${PROJECT_BINARY_DIR}/site/ DESTINATION orvel-tavoren COMPONENT site)
+install(DIRECTORY LICENSES DESTINATION orvel-tavoren COMPONENT site)
+install(FILES ${PROJECT_BINARY_DIR}/orvel-tavoren.html DESTINATION . COMPONENT file)
+install(DIRECTORY LICENSES DESTINATION . COMPONENT file)
+set(CPACK_GENERATOR ZIP)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_ARCHIVE_SITE_FILE_NAME orvel-tavoren-${PROJECT_VERSION}-site)
+set(CPACK_ARCHIVE_FILE_FILE_NAME orvel-tavoren-${PROJECT_VERSION}-html)
+include(CPack)
