@@ -12,13 +12,7 @@ install(DIRECTORY LICENSES DESTINATION ${own_folder})
 set(icons)
 foreach(size 16 24 32 48 64 128 256 512)
     set(icon ${PROJECT_BINARY_DIR}/icons/${size}/orvel-tavoren.png)
-    add_custom_command(OUTPUT ${icon}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/icons/${size}
-        COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${icon} art/icon.svg
-        DEPENDS art/icon.svg
-        WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
-        COMMENT "Drawing the icon at ${size}"
-        VERBATIM)
+    orvel_icon(${size} ${icon})
     list(APPEND icons ${icon})
     install(FILES ${icon} DESTINATION share/icons/hicolor/${size}x${size}/apps COMPONENT deb EXCLUDE_FROM_ALL)
 endforeach()

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Holds the sources to the arrows between the folders.
 
-A file includes its own folder and the folders below it, only the Qt desktop and what measures or tests it include Qt, and the
-files (a header and its .cpp count as one) have no cycle. Prints FILE:LINE: REASON for each breach and ends with 1.
+A file includes its own folder and the folders below it, only the Qt desktop and what measures or tests it include Qt,
+only the page's desktop includes Emscripten, and the files (a header and its .cpp count as one) have no cycle. Prints
+FILE:LINE: REASON for each breach and ends with 1.
 """
 
 import re
@@ -14,12 +15,13 @@ BELOW = {
     "text": [],
     "ui": ["text"],
     "ui/qt": ["ui", "text"],
+    "ui/web": ["ui", "text"],
     "core": ["ui", "text"],
     "terminal": ["core", "ui", "text"],
     "interactions": ["terminal", "core", "ui", "text"],
     "saves": ["terminal", "core", "ui", "text"],
     "commands": ["interactions", "saves", "terminal", "core", "ui", "text"],
-    "app": ["commands", "interactions", "saves", "terminal", "core", "ui", "ui/qt", "text"],
+    "app": ["commands", "interactions", "saves", "terminal", "core", "ui", "ui/qt", "ui/web", "text"],
     "tools": ["text"],
 }
 EVERYTHING = [*BELOW, "tests", "tests/qt", "bench", "bench/qt"]
@@ -61,6 +63,8 @@ def breaches(root):
             if quote == "<":
                 if QT_HEADER.match(target) and folder_of(source) not in QT_FOLDERS:
                     yield f"{place}: only {', '.join(QT_FOLDERS)} include Qt: {target}"
+                elif target.startswith("emscripten") and folder_of(source) != "ui/web":
+                    yield f"{place}: only ui/web includes Emscripten: {target}"
                 elif (root / target).exists():
                     yield f"{place}: our own headers stand in quotes: {target}"
             elif not (root / target).exists():

@@ -1,0 +1,33 @@
+# What emscripten compiles: programs for node, and the game as a page.
+
+# Node's own files, read and written at once, as a program sees them.
+function(orvel_node_program target)
+    target_link_options(${target} PRIVATE
+        -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH -sWASM_ASYNC_COMPILATION=0
+        --js-library ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
+endfunction()
+
+orvel_node_program(pack_texts)
+orvel_node_program(replay)
+# Started as the native player is.
+set(headless_player ${PROJECT_BINARY_DIR}/replay)
+file(CONFIGURE OUTPUT ${headless_player} NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
+exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "$(dirname "$0")/replay.js" "$@"
+]])
+file(CHMOD ${headless_player} PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+include(cmake/pictures.cmake)
+add_subdirectory(ui/web)
+
+# A folder for a web server, and the one file.
+install(DIRECTORY ${PROJECT_BINARY_DIR}/site/ DESTINATION orvel-tavoren COMPONENT site)
+install(DIRECTORY LICENSES DESTINATION orvel-tavoren COMPONENT site)
+install(FILES ${PROJECT_BINARY_DIR}/orvel-tavoren.html DESTINATION . COMPONENT file OPTIONAL)
+install(DIRECTORY LICENSES DESTINATION . COMPONENT file)
+set(CPACK_GENERATOR ZIP)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_ARCHIVE_SITE_FILE_NAME orvel-tavoren-${PROJECT_VERSION}-site)
+set(CPACK_ARCHIVE_FILE_FILE_NAME orvel-tavoren-${PROJECT_VERSION}-html)
+include(CPack)

@@ -1,0 +1,149 @@
+#include "ui/web/page.h"
+
+#include <emscripten.h>
+
+#include <cstdlib>
+
+// Here the linter and the formatter would take JavaScript for C++.
+// clang-format off
+// NOLINTBEGIN
+EM_ASYNC_JS(void, page_wait, (), { await Module.page.waitForEvent(); })
+EM_JS(int, page_event_number, (int field), { return Module.page.eventNumber(field); })
+EM_JS(char*, page_event_text, (int field), { return allocateUTF8(Module.page.eventText(field)); })
+EM_JS(void, page_answer_key, (int swallowed), { Module.page.answerKey(swallowed !== 0); })
+EM_JS(void, page_build, (const char* layouts, int size), { Module.page.build(JSON.parse(UTF8ToString(layouts, size))); })
+EM_JS(void, page_show_form, (int form, int visible, int reachable, const char* picture, int size), {
+    Module.page.showForm(form, visible !== 0, reachable !== 0, UTF8ToString(picture, size));
+})
+EM_JS(void, page_show_output, (int form, int control, int visible, int atEnd), {
+    Module.page.control(form, control).show(visible !== 0, atEnd !== 0);
+})
+EM_JS(void, page_write_output, (int form, int control, const char* text, int size, int replace) , {
+    const view = Module.page.control(form, control);
+    if (replace) view.clear();
+    view.append(UTF8ToString(text, size));
+})
+EM_JS(void, page_show_line, (int form, int control, const char* text, int size, int caret), {
+    Module.page.control(form, control).show(UTF8ToString(text, size), UTF8ToString(text, caret).length);
+})
+EM_JS(void, page_show_list, (int form, int control, const char* entries, int size, int selected), {
+    Module.page.control(form, control).show(UTF8ToString(entries, size).split("\n").slice(0, -1), selected);
+})
+EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int red, int green, int blue), {
+    Module.page.control(form, control).show(UTF8ToString(caption, size), `rgb(${red} ${green} ${blue})`);
+})
+EM_JS(void, page_show_focus, (int form, int control), { Module.page.showFocus(form, control); })
+EM_JS(void, page_show_busy_pointer, (int busy), { Module.page.showBusyPointer(busy !== 0); })
+EM_JS(void, page_open_message_box, (const char* text, int textSize, const char* title, int titleSize), {
+    Module.page.openMessageBox(UTF8ToString(text, textSize), UTF8ToString(title, titleSize));
+})
+EM_JS(void, page_close_message_box, (), { Module.page.closeMessageBox(); })
+EM_JS(void, page_say_the_end, (), { Module.page.sayTheEnd(); })
+EM_JS(int, page_count_output_lines, (int form, int control), { return Module.page.control(form, control).countLines(); })
+EM_JS(int, page_has_arial, (), { return Module.page.hasArial ? 1 : 0; })
+EM_JS(double, page_random, (), { return Math.random(); })
+// NOLINTEND
+// clang-format on
+
+namespace ui::web::page {
+
+namespace {
+
+int Size(std::string_view text) {
+    return static_cast<int>(text.size());
+}
+
+std::string TakeText(int field) {
+    char* const text = page_event_text(field);
+    std::string taken = text;
+    std::free(text);
+    return taken;
+}
+
+}  // namespace
+
+Event WaitForEvent() {
+    page_wait();
+    Event event{.Kind = static_cast<EventKind>(page_event_number(0)),
+                .Target = {.Form = page_event_number(1), .Control = page_event_number(2)},
+                .Number = page_event_number(3),
+                .Before = {},
+                .After = {}};
+    if (event.Kind == EventKind::Edit) {
+        event.Before = TakeText(0);
+        event.After = TakeText(1);
+    }
+    return event;
+}
+
+void AnswerKey(bool swallowed) {
+    page_answer_key(swallowed ? 1 : 0);
+}
+
+void Build(const std::string& layouts) {
+    page_build(layouts.data(), Size(layouts));
+}
+
+void ShowForm(int form, bool visible, bool reachable, std::string_view picture) {
+    page_show_form(form, visible ? 1 : 0, reachable ? 1 : 0, picture.data(), Size(picture));
+}
+
+void ShowOutput(Place place, bool visible, bool atEnd) {
+    page_show_output(place.Form, place.Control, visible ? 1 : 0, atEnd ? 1 : 0);
+}
+
+void ReplaceOutput(Place place, std::string_view text) {
+    page_write_output(place.Form, place.Control, text.data(), Size(text), 1);
+}
+
+void AppendOutput(Place place, std::string_view text) {
+    page_write_output(place.Form, place.Control, text.data(), Size(text), 0);
+}
+
+void ShowLine(Place place, std::string_view text, std::size_t caretByte) {
+    page_show_line(place.Form, place.Control, text.data(), Size(text), static_cast<int>(caretByte));
+}
+
+void ShowList(Place place, const ListBox& list) {
+    std::string entries;
+    for (const std::string& entry : list.Entries()) entries.append(entry).append("\n");
+    page_show_list(place.Form, place.Control, entries.data(), Size(entries), list.Selected());
+}
+
+void ShowLabel(Place place, std::string_view caption, Colour colour) {
+    page_show_label(place.Form, place.Control, caption.data(), Size(caption), colour.Red, colour.Green, colour.Blue);
+}
+
+void ShowFocus(Place place) {
+    page_show_focus(place.Form, place.Control);
+}
+
+void ShowBusyPointer(bool busy) {
+    page_show_busy_pointer(busy ? 1 : 0);
+}
+
+void OpenMessageBox(std::string_view text, std::string_view title) {
+    page_open_message_box(text.data(), Size(text), title.data(), Size(title));
+}
+
+void CloseMessageBox() {
+    page_close_message_box();
+}
+
+void SayTheEnd() {
+    page_say_the_end();
+}
+
+std::size_t CountOutputLines(Place place) {
+    return static_cast<std::size_t>(page_count_output_lines(place.Form, place.Control));
+}
+
+bool HasArial() {
+    return page_has_arial() != 0;
+}
+
+double Random() {
+    return page_random();
+}
+
+}  // namespace ui::web::page

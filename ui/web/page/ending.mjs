@@ -1,0 +1,9 @@
+// What the page says when the game has ended.
+
+export function sayTheEnd() {
+    const again = Object.assign(document.createElement("button"), { type: "button", textContent: "Hrát znovu" });
+    again.addEventListener("click", () => location.reload());
+    const notice = document.getElementById("notice");
+    notice.replaceChildren("Hra skončila.", again);
+    again.focus();
+}

@@ -1,0 +1,51 @@
+// A window of the game with its controls and picture.
+import { EntryList } from "./entry_list.mjs";
+import { addressOf } from "./files.mjs";
+import { InputLine } from "./input_line.mjs";
+import { LabelArea } from "./label_area.mjs";
+import { OutputView } from "./output_view.mjs";
+
+const Kinds = { OutputView, InputLine, EntryList, LabelArea };
+
+// Positions and sizes are in twips, as in the layouts; style.css makes lengths of them.
+function dress(element, layout) {
+    for (const name of ["left", "top", "width", "height", "font"]) {
+        if (name in layout) element.style.setProperty(`--${name}`, layout[name]);
+    }
+    element.style.setProperty("--text", layout.text ?? "inherit");
+    element.style.setProperty("--background", layout.background);
+    element.classList.toggle("bold", layout.bold === true);
+    element.classList.toggle("italic", layout.italic === true);
+}
+
+export class FormWidget {
+    #picture = "";
+
+    constructor(layout, form, page) {
+        this.element = document.createElement("section");
+        this.element.id = layout.name;
+        this.element.className = layout.backdrop ? "form backdrop" : layout.framed ? "form main" : "form panel";
+        this.element.hidden = true;
+        if (!layout.backdrop) this.element.setAttribute("aria-label", layout.caption);
+        if (this.element.classList.contains("panel")) {
+            this.element.setAttribute("role", "dialog");
+            this.element.setAttribute("aria-modal", "true");
+        }
+        dress(this.element, layout);
+        this.controls = layout.controls.map((each, control) => new Kinds[each.kind](each, { form, control }, page));
+        this.controls.forEach((control, index) => {
+            control.element.id = `${layout.name}.${layout.controls[index].name}`;
+            control.element.classList.add("control");
+            dress(control.element, layout.controls[index]);
+        });
+        this.element.append(...this.controls.map((control) => control.element));
+    }
+
+    show(visible, reachable, picture) {
+        this.element.hidden = !visible;
+        this.element.inert = !reachable;
+        if (this.#picture === picture) return;
+        this.#picture = picture;
+        this.element.style.backgroundImage = `url("${addressOf(`pics/${picture}.webp`)}")`;
+    }
+}

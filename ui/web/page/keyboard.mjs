@@ -1,0 +1,30 @@
+// Keys go to the control that the player stands in, and what that does not want to the one that has the focus in the program. Whether the
+// browser is to act on a key must be said at once, before the program has heard of it.
+
+// The character that the key types (Backspace, Enter and Escape are characters too); 0 for keys that only move about.
+function characterOf(event) {
+    switch (event.key) {
+        case "Enter": return 13;
+        case "Backspace": return 8;
+        case "Escape": return 27;
+        default: break;
+    }
+    const characters = [...event.key];
+    return characters.length === 1 ? characters[0].codePointAt(0) : 0;
+}
+
+function isShortcut(event) {
+    return (event.ctrlKey || event.metaKey || event.altKey) && !event.getModifierState("AltGraph");
+}
+
+export function listenToKeys(page, messageBox) {
+    document.addEventListener("keydown", (event) => {
+        if (event.isComposing || isShortcut(event)) return;
+        if (messageBox.isOpen) return messageBox.keyDown(event);
+        const here = page.controlAround(document.activeElement);
+        if (here === null && document.activeElement !== document.body) return;  // outside of the game's windows
+        const character = characterOf(event);
+        if (here?.keyDown(event, character) || here === page.focused) return;
+        page.focused?.keyDown(event, character);
+    });
+}

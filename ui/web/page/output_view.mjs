@@ -1,0 +1,69 @@
+// A box of many lines that is only read. New text is set at its end; what stands before it is not laid out again.
+import { EventKind } from "./event_queue.mjs";
+
+const LinesInChunk = 64;  // a chunk that is full is never touched again
+
+function newElement(name, className) {
+    const element = document.createElement(name);
+    element.className = className;
+    return element;
+}
+
+export class OutputView {
+    #text = newElement("div", "text");
+    #probe = newElement("div", "probe");
+    #line = null;
+
+    constructor(layout, place, page) {
+        this.element = newElement("div", "output");
+        this.element.tabIndex = 0;
+        this.element.setAttribute("role", "log");
+        this.element.setAttribute("aria-live", "off");
+        this.element.setAttribute("aria-label", layout.spoken);
+        this.#probe.textContent = "1";
+        this.#probe.setAttribute("aria-hidden", "true");
+        this.element.append(this.#text, this.#probe);
+        this.element.addEventListener("focusin", () => page.events.post(EventKind.Focus, place));
+        this.element.addEventListener("click", () => page.takeFocus());
+        this.clear();
+    }
+
+    clear() {
+        this.#text.replaceChildren(newElement("div", "chunk"));
+        this.#startLine();
+    }
+
+    append(text) {
+        const [first, ...others] = text.split("\r\n");
+        this.#line.append(first);
+        for (const line of others) {
+            this.#startLine();
+            this.#line.append(line);
+        }
+    }
+
+    #startLine() {
+        if (this.#text.lastChild.childElementCount === LinesInChunk) this.#text.append(newElement("div", "chunk"));
+        this.#line = newElement("p", "");
+        this.#text.lastChild.append(this.#line);
+    }
+
+    show(visible, atEnd) {
+        this.element.classList.toggle("invisible", !visible);
+        if (atEnd) this.element.scrollTop = this.element.scrollHeight;
+    }
+
+    // All lines are equally high.
+    countLines() {
+        const line = this.#probe.getBoundingClientRect().height;
+        return line > 0 ? Math.round(this.#text.getBoundingClientRect().height / line) : 1;
+    }
+
+    focus() {
+        this.element.focus({ preventScroll: true });
+    }
+
+    keyDown() {
+        return false;
+    }
+}

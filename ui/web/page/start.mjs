@@ -1,0 +1,33 @@
+// Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
+import { fetchBytes, fetchProgram } from "./files.mjs";
+import { Page } from "./page.mjs";
+import { loadTextFace } from "./text_face.mjs";
+
+const ProgramFolder = "/orvel-tavoren";
+
+function note(text) {
+    document.getElementById("notice").textContent = text;
+}
+
+async function start() {
+    const [{ default: createEngine }, program, story, hasArial] =
+        await Promise.all([import("./engine.mjs"), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
+    const page = new Page(document.getElementById("stage"), hasArial);
+    const engine = await createEngine({
+        page,
+        noInitialRun: true,
+        instantiateWasm(imports, done) {
+            WebAssembly.instantiate(program, imports).then((instance) => done(instance, program));
+            return {};
+        },
+    });
+    engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
+    engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
+    note("");
+    engine.callMain([]);
+}
+
+start().catch((error) => {
+    console.error(error);
+    note("Hru se nepodařilo načíst. Zkuste prosím stránku otevřít znovu.");
+});
