@@ -17,10 +17,9 @@ constexpr auto Folders = std::to_array<std::string_view>({
     "domácnostech i příbory. Nejvzácnější je však rezonit, krystal nacházený na měsících bez ovzduší. Zasáhne-li jej iontový "
     "impuls, rozezní se a svůj tón vnutí každému tuhému tělesu, ke kterému je připevněn, dokud se toto těleso nerozpadne na "
     "prach. Sám krystal přitom zůstane bez vady. Zbraň založená na tomto jevu, takzvaná seismická bomba, existuje pouze v "
-    "teorii. Podle výpočtů by účinkovala jen tehdy, byla-li by pevně přichycena k nejtužší části stavby, a čím by stavba "
-    "byla větší a tužší, tím hůř by dopadla. Ve vakuu, kde by se ničeho nedotýkala, by byla zcela neškodná. Po natažení "
-    "zápalky by se odpálení již nedalo odvolat. Žádná armáda takovou zbraň nevlastní, což všechny armády již opakovaně "
-    "potvrdily.",
+    "teorii. Podle výpočtů by účinkovala, jen kdyby ji někdo pevně upnul k nejtužší části stavby, a čím by stavba byla větší "
+    "a tužší, tím hůř by dopadla. Ve vakuu, kde by se ničeho nedotýkala, by byla zcela neškodná. Po natažení roznětky by se "
+    "již odpálení nedalo nijak odvolat. Žádná armáda takovou zbraň nevlastní, což všechny armády již opakovaně potvrdily.",
 
     "SLOŽKA 2: Tato složka byla vybrána ze záznamů knihy „Třikrát o hranici“ od Irmy Daskal. S Iškary se lidé setkali na "
     "okraji osídlených světů a jedenáct let je pokládali za přírodní úkaz. O jejich vzhledu víme jen z doslechu: jedni "
@@ -45,9 +44,9 @@ constexpr auto Folders = std::to_array<std::string_view>({
     "jsou samočinné, ostatní chrání zámky a číselníky. Teplotu v místnostech sledují tepelné snímače. Jádro je zavěšeno v "
     "jediném tuhém loži, takže jím nemůže nic otřást. Hangár je od ostatních prostor oddělen branou odolnou i proti ohni. "
     "Vstup do strojovny hlídají stráže a povoluje jej pouze pověření. K naléhavým případům slouží nouzové volání po "
-    "terminálech: volání na můstek má přednost před všemi ostatními a i kapitán je povinen uposlechnout je ihned. Podle "
-    "statistik je nehoda na lodi takto vybavené prakticky vyloučena; případy, které se přesto staly, se do statistik "
-    "nezapočítávají.",
+    "terminálech: volání na můstek má přednost a i kapitán je musí uposlechnout, jakmile na můstku svítí závada, třeba "
+    "otevřený panel u jádra; jinak je smí pokládat za omyl. Nehoda je tak prakticky vyloučena; ty, co se přesto staly, se "
+    "nepočítají.",
 
     "SLOŽKA 5: Programovatelné obvody se dělí na mnoho typů. Liší se rychlostí, trvanlivostí a cenou, přičemž při nákupu "
     "rozhoduje zpravidla ta poslední. Nalezneme je ve strojích, ve dveřích i v číselnících, zkrátka všude tam, kde by se "
@@ -56,8 +55,8 @@ constexpr auto Folders = std::to_array<std::string_view>({
     "přístroj. Takové přístroje jsou tři a nelze je zaměňovat. Pro trvalé paměti je určena hrotová sonda, která se přikládá "
     "na obnažený obvod. Pro paměti pod proudem je určen prstencový měřič, který se navléká na přívod. Pro uzavřené obvody "
     "zámků a číselníků je určena pistolová zkoušečka, která přečte paměť přes kryt a nic přitom nepoškodí. Měřicí přístroje "
-    "má v úschově sklad každé lodi a vydá je každému, kdo si o ně řekne pravým jménem. Kdo žádá o „tu věc s jehlou“, odchází "
-    "obvykle s prázdnou.",
+    "má v úschově sklad každé lodi a vydá je na záruku tomu, kdo si o ně řekne pravým jménem. Žadatelé o „tu věc s jehlou“ "
+    "odcházejí s prázdnou.",
 });
 
 }  // namespace
