@@ -20,6 +20,7 @@ steps = re.findall(r"^`?([^#\s`][^:→`\n]*?)`?(?: →|:)", road, re.MULTILINE)
 played = iter(re.findall(r"^(?:\[terminál\] )?> ?(.*)$", transcript, re.MULTILINE))
 
 needed = [command for needless, command in told if not needless]
-different = difflib.unified_diff(*([step for step in each if not NO_STEP.match(step)] for each in (steps, needed)), "road", "told", lineterm="")
+steps, needed = ([step for step in each if not NO_STEP.match(step)] for each in (steps, needed))
+different = difflib.unified_diff(steps, needed, "road", "told", lineterm="")
 unplayed = [f"not played, or not in this order: {command}" for _, command in told if command not in played]
 sys.exit("\n".join([*different, *unplayed[:1]]) or 0)
