@@ -8,10 +8,6 @@
 namespace {
 
 using enum Item;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-constexpr TextNumber Introduction = 71;
 
 TEST(Title, IsReachedWithoutTheFontButNotWithoutTheTexts) {
     Play play;
@@ -20,7 +16,7 @@ TEST(Title, IsReachedWithoutTheFontButNotWithoutTheTexts) {
     const auto boxes = play.Desktop().TakeMessageBoxes();
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].Title, "POZOR!");
-    EXPECT_EQ(play.Output(), play.Text(Introduction));
+    EXPECT_EQ(play.Output(), play.Text(71));
 }
 
 TEST(Game, EndsAtTheCommandAfterItsStoryHasEnded) {

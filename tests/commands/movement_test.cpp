@@ -5,7 +5,6 @@ namespace {
 
 using enum Item;
 using testing::ElementsAre;
-using testing::StartsWith;
 
 TEST(Captain, CatchesHimWithHisDocuments) {
     for (const auto taken : {&GameState::DocumentsTaken, &GameState::Documents2Taken}) {

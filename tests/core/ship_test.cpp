@@ -1,18 +1,13 @@
-#include <algorithm>
 #include <map>
 
-#include "core/carrying.h"
-#include "core/sector_items.h"
+#include "core/output.h"
+#include "core/verbs.h"
 #include "tests/play.h"
 
 namespace {
 
 using enum Item;
-using testing::AllOf;
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 TEST(Ship, LeadsThroughEveryExitIntoASector) {
     SectorTable ship;
@@ -69,7 +64,7 @@ TEST(Output, IsEmptiedAfterTwoThousandLines) {
     LimitOutput(play.TheGame(), box);
     EXPECT_EQ(box.Text(), lines);
     box.AppendText("\r\n");
-    play.Choose(11);
+    play.Choose(verb::Version);
     play.Proceed();
     EXPECT_EQ(box.Text(), "\r\n\r\nVerze programu: 1.0.42 (v1.01)");
 }
