@@ -84,9 +84,9 @@ ReplayScript::Refusal ReplayScript::Click(std::string_view arguments) {
     if (auto* const* label = std::get_if<ui::Label*>(&found->Control)) return desktop.ClickLabel(*found->Form, **label);
     auto* const* list = std::get_if<ui::ListBox*>(&found->Control);
     if (list == nullptr) return "a text box has no click event";
-    const auto index = ParseNumber<int>(arguments);
-    if (!index) return "the entry's index is no number";
-    return desktop.ClickEntry(*found->Form, **list, *index);
+    const auto& entries = (*list)->Entries();
+    const auto index = ParseNumber<int>(arguments).value_or(static_cast<int>(std::ranges::find(entries, arguments) - entries.begin()));
+    return desktop.ClickEntry(*found->Form, **list, index);
 }
 
 ReplayScript::Refusal ReplayScript::PressKey(std::string_view arguments) {

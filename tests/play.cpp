@@ -216,19 +216,6 @@ std::vector<int> Play::Told() const {
     return numbers;
 }
 
-std::vector<std::string> Play::Replies() const {
-    auto replies = Paragraphs(windows.Form2.Text1.Text());
-    if (!replies.empty()) replies.erase(replies.begin(), replies.begin() + 2);  // the banner and the question for the name
-    return replies;
-}
-
-std::vector<std::string> Play::Exits() {
-    Choose(verb::Go);
-    const auto offered = Form1().List2[1].Entries();
-    Press(Form1().Window, Form1().Text2, ui::key::Backspace);
-    return offered;
-}
-
 bool Play::Sees(Item item) const {
     return IsInCurrentSector(game.state, item);
 }

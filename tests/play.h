@@ -57,8 +57,6 @@ public:
     std::string LastSaid() const;
     std::vector<int> Told() const;
 
-    std::vector<std::string> Replies() const;  // of the terminal since it was started
-    std::vector<std::string> Exits();          // as the list of directions offers them
     bool Sees(Item item) const;
     bool Carries(Item item) const;
     bool Lies(Item item, std::int16_t sector) const;

@@ -1,18 +1,13 @@
-#include <algorithm>
 #include <map>
 
-#include "core/carrying.h"
-#include "core/sector_items.h"
+#include "core/output.h"
+#include "core/verbs.h"
 #include "tests/play.h"
 
 namespace {
 
 using enum Item;
-using testing::AllOf;
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 TEST(Ship, LeadsThroughEveryExitIntoASector) {
     SectorTable ship;
@@ -60,59 +55,6 @@ TEST(ItemName, IsEmptyForWhatIsNoItem) {
     EXPECT_EQ(ItemName(Self), "sebe");
 }
 
-TEST(View, NamesThingsAndExits) {
-    Play play = Play::In(sector::Crossing);
-    EXPECT_EQ(play.View(), play.Text(sector::Crossing) + "\r\nNení tu nic zvláštního.\r\nMůžeš jít na sever, západ, východ.");
-    play.MoveTo(sector::Corridor);
-    EXPECT_THAT(play.View(), HasSubstr("\r\nVidíš dveře do kajuty.\r\n"));
-    play.MoveTo(sector::InnerRoom);
-    EXPECT_THAT(play.View(), AllOf(HasSubstr("\r\nVidíš dveře, kufřík, terminál, okno, skříň.\r\n"), EndsWith("\r\nNemůžeš jít nikam.")));
-    play.State().Sectors[sector::InnerRoom].South = 7;  // no sound exit flag
-    EXPECT_THAT(play.View(), EndsWith("Nemůžeš jít nikam."));
-}
-
-TEST(View, IsRedrawnEvenWhenNothingWasRemoved) {
-    Play play = Play::InCabin();
-    play.Clear();
-    RemoveItemFromSector(play.TheGame(), sector::Bathroom, Captain, Redraw::Yes);
-    EXPECT_THAT(play.Output(), StartsWith(play.Text(sector::Cabin)));
-    EXPECT_THAT(play.Output(), HasSubstr("\r\n\r\n" + play.Text(sector::Bathroom)));
-}
-
-TEST(Carrying, AnswersThenShowsTheRoomWithoutTheThing) {
-    Play play = Play::InCabin({CabinKey});
-    play.Take(Tools);
-    ASSERT_EQ(play.Said().size(), 2);
-    EXPECT_EQ(play.Said()[0], "Vzal jsi nářadí...");
-    EXPECT_THAT(play.LastSaid(), HasSubstr("skříň, okno.\r\n"));
-    EXPECT_THAT(play.Form1().List1.Entries(), ElementsAre("klíč od kajuty", "nářadí"));
-    play.Put(CabinKey);
-    EXPECT_EQ(play.Said()[0], "Položil jsi klíč od kajuty...");
-    EXPECT_THAT(play.LastSaid(), HasSubstr("okno, klíč od kajuty.\r\n"));
-    play.Put(Tools);
-    EXPECT_THAT(play.Form1().List1.Entries(), ElementsAre("---"));
-}
-
-TEST(Carrying, EndsAtFiveThings) {
-    Play play = Play::In(sector::Bathroom, {Tools, Newspaper, Plans, Pencil, MetalRod});
-    play.Take(Towel);
-    EXPECT_THAT(play.Said(), ElementsAre("Už toho více neuneseš!"));
-    EXPECT_TRUE(play.Sees(Towel));
-    EXPECT_FALSE(play.Carries(Towel));
-}
-
-TEST(Carrying, MovesTheLastThingIntoAGap) {
-    Play play = Play::InCabin({Tools, Newspaper, Plans, Pencil});
-    RemoveFromInventory(play.TheGame(), Newspaper);
-    RemoveFromInventory(play.TheGame(), Newspaper);
-    EXPECT_THAT(play.State().Inventory, ElementsAre(6, 107, 64, 0, 0));
-    RemoveFromInventory(play.TheGame(), Plans);
-    EXPECT_THAT(play.State().Inventory, ElementsAre(6, 107, 0, 0, 0));
-    Play full = Play::InCabin({Tools, Newspaper, Plans, Pencil, MetalRod});
-    RemoveFromInventory(full.TheGame(), Tools);
-    EXPECT_THAT(full.State().Inventory, ElementsAre(109, 42, 64, 107, 0));
-}
-
 TEST(Output, IsEmptiedAfterTwoThousandLines) {
     Play play = Play::InCabin();
     ui::TextBox& box = play.Form1().Text1;
@@ -122,7 +64,7 @@ TEST(Output, IsEmptiedAfterTwoThousandLines) {
     LimitOutput(play.TheGame(), box);
     EXPECT_EQ(box.Text(), lines);
     box.AppendText("\r\n");
-    play.Choose(11);
+    play.Choose(verb::Version);
     play.Proceed();
     EXPECT_EQ(box.Text(), "\r\n\r\nVerze programu: 1.0.42 (v1.01)");
 }

@@ -37,10 +37,13 @@ class Player:
             self.on.xdotool("click", "--repeat", turns, "--delay", "20", "5")
         self.click_main((left + 30, top + 1 + 16 * (index - min(3 * turns, max(0, count - 5))) + 8))
 
-    def command(self, verb, *choices):
+    def compose(self, verb, *choices):
         self.click_entry("verbs", VERBS.index(verb), 13)
         for choice in choices:
             self.click_entry(*choice)
+
+    def command(self, verb, *choices):
+        self.compose(verb, *choices)
         self.click_main(PROCEED)
 
     def keys(self, *names):
@@ -121,4 +124,5 @@ def main():
         print("passed:", scene.__name__)
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -26,20 +26,11 @@ inline GameState StartState() {
     return state;
 }
 
-inline Bytes EmptyTexts() {
-    Bytes packed(2 + 4 * LastText);
-    packed[0] = LastText & 0xFF;
-    packed[1] = LastText >> 8;
-    return packed;
-}
-
 struct SavedGames {
     SavedGames() {
+        const auto programFolder = game.state.AppPath;
         game.state = StartState();
-        game.state.AppPath = programFolder.Path;
-        game.texts = TextStore::Decode(EmptyTexts());
-        ConnectForm4(game);
-        std::filesystem::create_directories(Folder());
+        game.state.AppPath = programFolder;
     }
 
     std::filesystem::path Folder() const { return game.state.AppPath / "data" / "saves"; }
@@ -89,11 +80,11 @@ struct SavedGames {
         };
     }
 
-    TemporaryFolder programFolder;
-    ui::Windows windows;
-    ui::MemoryDesktop desktop{windows};
+    Play play;
+    Game& game = play.TheGame();
+    ui::Windows& windows = play.Windows();
+    ui::MemoryDesktop& desktop = play.Desktop();
     ui::SystemWindow& panel = windows.Form4;
-    Game game{windows, desktop, [] { return 0.5; }};
 };
 
 constexpr SaveKeys SomeKeys{.Name = 42, .DoorCode = 77};

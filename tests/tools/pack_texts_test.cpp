@@ -4,6 +4,10 @@
 
 #include <string>
 
+#include "core/text_store.h"
+#include "tests/play.h"
+#include "ui/errors.h"
+
 namespace {
 
 std::string Refusal(const std::string& source) {
@@ -15,58 +19,70 @@ std::string Refusal(const std::string& source) {
     return "packed";
 }
 
-// What a reader of the packed file gets back for the text that begins at `position`.
-std::string Decoded(const std::vector<std::uint16_t>& words, std::size_t position) {
-    std::string codes;
-    for (std::size_t i = 0; i < words[position]; ++i) {
-        codes += static_cast<char>(static_cast<std::uint16_t>(words[position + 2 + i] - words[position + 1]));
+TextStore Decoded(const std::vector<std::uint16_t>& words, std::size_t bytes = SIZE_MAX) {
+    Bytes file;
+    for (const std::uint16_t word : words) {
+        file.push_back(static_cast<std::uint8_t>(word & 0xFF));
+        file.push_back(static_cast<std::uint8_t>(word >> 8));
     }
-    return codes;
+    file.resize(std::min(file.size(), bytes));
+    return TextStore::Decode(file);
 }
 
-TEST(PackTexts, ShiftsWindows1250CodesByAKeyOfEachText) {
-    const auto words = tools::PackTexts("# for writers\n1: Žlutý kůň\n\n2: \n3: Žár", "texts.txt");
-    ASSERT_EQ(words.size(), 1 + (2 + 9) + 2 + (2 + 3));
-    EXPECT_EQ(words[0], 3);
-    EXPECT_EQ(Decoded(words, 1), "\x8Elut\xFD k\xF9\xF2");
-    EXPECT_EQ(words[12], 0);
-    EXPECT_EQ(Decoded(words, 14), "\x8E\xE1r");
-    EXPECT_NE(words[3], words[16]);  // the same letter, hidden differently
+// As many texts as the story has; the last code of the code page is among them.
+std::string Text(int number) {
+    return number == 1 ? "" : std::string(static_cast<std::size_t>(number % 3), '~') + "Žlutý kůň ˙";
 }
 
-TEST(PackTexts, HoldsCodesThatWrapAroundSixteenBits) {
-    std::string source;
-    for (int number = 1; number <= 300; ++number) source += std::to_string(number) + ": ˙\n";  // the last code, 255
-    const auto words = tools::PackTexts(source, "texts.txt");
+std::vector<std::uint16_t> Packed() {
+    std::string source = "# for writers\n\n";
+    for (int number = 1; number <= LastText; ++number) source += std::to_string(number) + ": " + Text(number) + "\n";
+    return tools::PackTexts(source, "texts.txt");
+}
+
+TEST(PackedTexts, ComeBackByTheirNumbersAndAreHiddenByKeysOfTheirOwn) {
+    const auto words = Packed();
+    const TextStore texts = Decoded(words);
     bool wrapped = false;
-    for (std::size_t position = 1; position < words.size(); position += 3) {
-        EXPECT_EQ(Decoded(words, position), "\xFF");
-        wrapped |= words[position + 2] < words[position + 1];
+    std::set<std::uint16_t> keys;
+    for (std::size_t position = 1; position < words.size(); position += 2u + words[position]) {
+        keys.insert(words[position + 1]);
+        for (std::size_t i = 0; i < words[position]; ++i) wrapped |= words[position + 2 + i] < words[position + 1];
     }
-    EXPECT_TRUE(wrapped);
+    EXPECT_TRUE(wrapped);  // around sixteen bits
+    EXPECT_GT(keys.size(), 200);
+    for (int number = 1; number <= LastText; ++number) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), Text(number));
+    for (const int number : {-1, 0, LastText + 1}) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), std::nullopt);
 }
 
-TEST(PackTexts, NamesTheLineOfACharacterThatTheCodePageLacks) {
+TEST(PackedTexts, AreRefusedWhenTheFileIsDamagedOrMissing) {
+    const auto words = Packed();
+    for (const std::size_t bytes : {std::size_t{0}, std::size_t{1}, std::size_t{2}, words.size(), 2 * words.size() - 1}) {
+        EXPECT_THROW(Decoded(words, bytes), ui::GameError) << bytes << " bytes";
+    }
+    const auto refuses = [&](std::size_t position, int value) {
+        auto damaged = words;
+        damaged[position] = static_cast<std::uint16_t>(value);
+        EXPECT_THROW(Decoded(damaged), ui::GameError) << value << " at word " << position;
+    };
+    refuses(0, LastText - 1);  // too few texts
+    refuses(0, LastText + 1);  // one more than there is
+    refuses(3, -1);            // a length
+    refuses(5, words[4] - 1);  // a character below 0
+    refuses(5, words[4] + 256);
+    const TemporaryFolder folder;
+    EXPECT_THROW(PrepareTextStore(folder.Path), ui::GameError);
+}
+
+TEST(PackTexts, NamesTheLineThatTheFormatCannotHold) {
+    const std::string expected = "expected \"NUMBER: TEXT\", a comment or an empty line";
     EXPECT_EQ(Refusal("1: Dobré\n\n2: Dobré ráno ☀\n"), "texts.txt:3: '☀' U+2600 is not in Windows-1250, at character 12 of the text");
     EXPECT_EQ(Refusal("1: \xC5\n"), "texts.txt:1: a byte that is not UTF-8 is not in Windows-1250, at character 1 of the text");
-}
-
-TEST(PackTexts, RefusesATextThatIsBroken) {
-    const std::string expected = "expected \"NUMBER: TEXT\", a comment or an empty line";
     EXPECT_EQ(Refusal("1: Dveře\njsou zavřené.\n"), "texts.txt:2: " + expected);
     EXPECT_EQ(Refusal("1 Dveře\n"), "texts.txt:1: " + expected);
-    EXPECT_EQ(Refusal("-1: Dveře\n"), "texts.txt:1: " + expected);
     EXPECT_EQ(Refusal("99999999999999999999999: Dveře\n"), "texts.txt:1: " + expected);
     EXPECT_EQ(Refusal("1: Dveře\r\n"), "texts.txt:1: control character U+000D at character 6 of the text");
-}
-
-TEST(PackTexts, RefusesNumbersThatDoNotCountUp) {
-    EXPECT_EQ(Refusal("2: a\n"), "texts.txt:1: text 2 stands where text 1 belongs");
     EXPECT_EQ(Refusal("1: a\n3: c\n"), "texts.txt:2: text 3 stands where text 2 belongs");
-    EXPECT_EQ(Refusal("1: a\n1: a\n"), "texts.txt:2: text 1 stands where text 2 belongs");
-}
-
-TEST(PackTexts, RefusesWhatSixteenBitsCannotCount) {
     EXPECT_EQ(Refusal("1: " + std::string(32767, 'a')), "packed");
     EXPECT_EQ(Refusal("1: " + std::string(32768, 'a')), "texts.txt:1: the text has 32768 characters, at most 32767 fit");
     std::string source;

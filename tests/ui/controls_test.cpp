@@ -91,6 +91,28 @@ TEST(TextBox, CountsReplacementsApartFromAppending) {
     EXPECT_EQ(box.LineBreaks(), 0);
 }
 
+TEST(Controls, CountEveryChangeThatADesktopMustShow) {
+    ui::Windows windows;
+    const auto expectCounted = [](const char* what, const auto& control, const auto& change) {
+        const auto before = control.Changes();
+        change();
+        EXPECT_GT(control.Changes(), before) << what << " would stand on the screen as it was";
+    };
+    ui::TextBox& text = windows.Form1.Text1;
+    expectCounted("a new text", text, [&] { text.SetText("a"); });
+    expectCounted("an appended text", text, [&] { text.AppendText("b"); });
+    expectCounted("the caret", text, [&] { text.MoveCaretToEnd(); });
+    expectCounted("a hidden box", text, [&] { text.SetVisible(true); });
+    expectCounted("the caret's shape", text, [&] { text.SetCaretShape(ui::InputCaret); });
+    ui::ListBox& list = windows.Form1.List2[0];
+    expectCounted("the selection", list, [&] { list.Select(0); });
+    expectCounted("an emptied list", list, [&] { list.Clear(); });
+    expectCounted("a new entry", list, [&] { list.Append("Jdi"); });
+    ui::Label& label = windows.Form1.Label3;
+    expectCounted("a caption", label, [&] { label.SetCaption("a"); });
+    expectCounted("a colour", label, [&] { label.SetTextColour(ui::Teal); });
+}
+
 TEST(ListBox, ForgetsItsSelectionWhenItIsCleared) {
     ui::Windows windows;
     ui::ListBox& verbs = windows.Form1.List2[0];

@@ -11,19 +11,6 @@ namespace {
 using testing::ElementsAre;
 using testing::Optional;
 
-TEST(Focus, ReturnsToTheCommandLineFromEverywhere) {
-    Play play = Play::InCabin();
-    const ui::Control commandLine = &play.Form1().Text2;
-    for (const ui::Control& control : play.Form1().Window.Controls) {
-        if (!ui::TakesFocus(control)) continue;
-        EXPECT_EQ(play.Desktop().Focus(play.Form1().Window, control), std::nullopt);
-        EXPECT_THAT(play.Form1().Window.Focused, Optional(commandLine));
-    }
-    EXPECT_EQ(play.Desktop().Focus(play.Windows().Form5.Window), std::nullopt);
-    EXPECT_EQ(play.Windows().Active, &play.Form1().Window);
-    EXPECT_EQ(play.Form1().Text2.Shape()->Height, 7);
-}
-
 TEST(Focus, GoesToThePanelAndBack) {
     Play play = Play::InCabin();
     std::vector<std::string_view> active;

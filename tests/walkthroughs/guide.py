@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""Holds the walkthrough document to the winning game: the same commands in the same order.
+"""Holds the walkthrough document to the road of the story, and to the winning game.
 
-    guide.py DOCUMENT TRANSCRIPT
+    guide.py DOCUMENT TRANSCRIPT ROAD
 
-The document leaves out the walking, the doors, the login and the leaving of terminals, and what the keypad is told.
+What the document does not mark as needless are the steps of the road; all it tells is played, in the same order. Neither
+the walking, the doors, the login and the leaving of terminals nor the putting down of what fills the hands is a step.
 """
 import difflib
 import pathlib
@@ -11,9 +12,15 @@ import re
 import sys
 
 # The old door is told: it is no passage but a step of the story.
-LEFT_OUT = re.compile(r"$|Jdi |Otevři (drátěné )?dveře|mj-perolax$|exit$")
+NO_STEP = re.compile(r"Jdi |Polož |Otevři (drátěné )?dveře|mj-perolax$|exit$")
 
-document, transcript = (pathlib.Path(name).read_text(encoding="utf-8") for name in sys.argv[1:3])
-told = re.findall(r"^- (?:\\\* )?`([^`]+)`", document, re.MULTILINE)
-played = [command for command in re.findall(r"^(?:\[terminál\] )?> ?(.*)$", transcript, re.MULTILINE) if not LEFT_OUT.match(command)]
-sys.exit("\n".join(difflib.unified_diff(played, told, "played", "told", lineterm="")) or 0)
+document, transcript, road = (pathlib.Path(name).read_text(encoding="utf-8") for name in sys.argv[1:4])
+told = re.findall(r"^- (\\\* )?`([^`]+)`", document, re.MULTILINE)
+steps = re.findall(r"^`?([^#\s`][^:→`\n]*?)`?(?: →|:)", road, re.MULTILINE)
+played = iter(re.findall(r"^(?:\[terminál\] )?> ?(.*)$", transcript, re.MULTILINE))
+
+needed = [command for needless, command in told if not needless]
+steps, needed = ([step for step in each if not NO_STEP.match(step)] for each in (steps, needed))
+different = difflib.unified_diff(steps, needed, "road", "told", lineterm="")
+unplayed = [f"not played, or not in this order: {command}" for _, command in told if command not in played]
+sys.exit("\n".join([*different, *unplayed[:1]]) or 0)

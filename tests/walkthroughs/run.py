@@ -4,8 +4,8 @@
     run.py REPLAY PROGRAM_FOLDER SCRIPT [--update]
 
 The transcript has every command that was carried out and what it brought: the new text of the output box and of the
-terminal, the display of the keypad, message boxes, and the end. What has been told before is cut short. A script that is
-refused an event or does not reach the end of the game fails. --update writes the transcript instead of comparing it.
+terminal, what is carried now, the display of the keypad, message boxes, and the end. What has been told before is cut
+short. A script that is refused an event or does not reach the end of the game fails. --update writes the transcript instead of comparing it.
 """
 import difflib
 import json
@@ -65,6 +65,9 @@ class Player:
             added = new["text"][len(old["text"]):] if grown else new["text"]
             for line in filter(None, added.split("\r\n")):
                 self.note_told(mark + line)
+        carried = self.shown("Form1", "List1")["entries"]
+        if carried != self.shown("Form1", "List1", before)["entries"]:
+            self.note("[neseš] " + ", ".join(carried))
         display = self.shown("Form3", "Label1")["caption"]
         if display != self.shown("Form3", "Label1", before)["caption"]:
             self.note(f"[číselník] {display}")

@@ -1,0 +1,302 @@
+#!/usr/bin/env python3
+"""Measures what the tests catch: seeds single-line faults into a copy of the tree and notes which test catches each.
+
+    tools/seed_faults.py WORK [--count 300] [--seed 1] [--qt] [--every SECONDS]
+
+WORK is a folder for the copy, its build and faults.jsonl, a fault a line: where, what kind, what stood there and stands there now,
+the tests that caught it and after how many seconds. A run that was stopped goes on where it was. The faults are spread over the folders of
+the game by their lines and over the kinds evenly. The same seed draws the same faults from lines that have not changed, so two
+versions of the tree can be compared. Faults that do not compile are replaced by others; whether one that nobody catches changes
+anything a player could see has to be judged by hand. Quick tests run first, and the first that fails is enough, unless --every asks
+for all that take at most so long.
+
+--qt seeds into ui/qt and runs the Qt tests alone. Headers and app/main.cpp are left alone: the former would build everything
+anew, the latter has only tests that need a screen. One job; three to ten seconds a fault.
+"""
+import argparse
+import collections
+import hashlib
+import json
+import os
+import pathlib
+import re
+import resource
+import shutil
+import subprocess
+import sys
+import time
+
+TREE = pathlib.Path(__file__).resolve().parents[1]
+FOLDERS = ["interactions", "commands", "terminal", "core", "saves", "ui", "text", "app", "tools"]
+LEFT_OUT = {"app/main.cpp", "tools/pack_texts_main.cpp"}
+SLOW = 0.2  # seconds; such a test has a turn of its own
+LIMIT = 60  # seconds; what takes longer hangs
+# Most of a compilation would be these.
+PRECOMPILED = "algorithm array filesystem fstream functional iostream optional random span string variant vector".split()
+
+LEADING = r"(\s*(?:(?:\} )?else )?(?:if \(.*?\) |for \(.*?\) |case [^ ]+: +|default: +)?)"
+CALL = re.compile(LEADING + r"([A-Za-z_][\w:.]*(?:->[\w.]+)*(?:\[[^]]*\])?(?:\.\w+)?\(.*\)|(?:\+\+|--)[\w.>\[\]-]+);( return;)?$")
+ASSIGNMENT = re.compile(LEADING + r"([\w.:*()>\[\]-]+ (?:[+|-]?=) .*);( return;)?$")
+SWAPS = {
+    "equality": (r" (==|!=) ", {"==": "!=", "!=": "=="}),
+    "boundary": (r" (<=|>=|<|>) ", {"<": "<=", "<=": "<", ">": ">=", ">=": ">"}),
+    "and, or": (r" (&&|\|\|) ", {"&&": "||", "||": "&&"}),
+    "truth": (r"\b(True|False|true|false)\b", {"True": "False", "False": "True", "true": "false", "false": "true"}),
+}
+
+
+def masked(line):
+    """The line with its strings, characters and comment blanked out, at the same length."""
+    blank = lambda found: found[0][0] + "_" * (len(found[0]) - 2) + found[0][-1]
+    line = re.sub(r'"(?:\\.|[^"\\])*"|(?<![0-9a-fA-F])\'(?:\\.|[^\'\\])+\'', blank, line)
+    return re.sub(r"\s*//.*", lambda found: " " * len(found[0]), line).rstrip()
+
+
+def condition(line):
+    """Where the condition of an if begins and ends, after what it may declare."""
+    found = re.search(r"\bif (?:constexpr )?\(", line)
+    if not found:
+        return None
+    begin, depth = found.end(), 1
+    for at in range(begin, len(line)):
+        depth += {"(": 1, ")": -1}.get(line[at], 0)
+        if line[at] == ";":
+            begin = at + 2
+        if depth == 0:
+            return begin, at
+    return None
+
+
+def last_field(row):
+    """Where the last field of a table's row begins and ends."""
+    found = re.fullmatch(r"\s*\{.*\},?", row)
+    if not found:
+        return None
+    end, depth = row.rindex("}"), 0
+    for at in range(end - 1, 0, -1):
+        depth += {")": 1, "}": 1, "]": 1, "(": -1, "{": -1, "[": -1}.get(row[at], 0)
+        if depth < 0:
+            return None
+        if row[at] == "," and depth == 0:
+            return at + 1, end
+    return None
+
+
+def changes(lines, number):
+    """The faults of a line: the kind and the lines that replace it and, for rows, the next."""
+    line = lines[number]
+    plain = masked(line)
+    if not plain.strip() or plain.lstrip().startswith(("#", "using ", "namespace ", "static_assert", "assert(")):
+        return
+    for kind, (pattern, other) in SWAPS.items():
+        for found in re.finditer(pattern, plain):
+            yield kind, [line[:found.start(1)] + other[found[1]] + line[found.end(1):]]
+    for found in re.finditer(r"(?<![\w.'])(\d+)(?![\w.'])", plain):
+        yield "constant", [line[:found.start()] + str(int(found[1]) + 1) + line[found.end():]]
+    if turned := condition(plain):
+        begin, end = turned
+        yield "condition", [f"{line[:begin]}!({line[begin:end]}){line[end:]}"]
+    for kind, pattern in (("call left out", CALL), ("change left out", ASSIGNMENT)):
+        if (found := pattern.fullmatch(plain)) and "return" not in found[2]:
+            yield kind, [line[:found.start(2)] + line[found.end(2):]]
+    if number + 1 < len(lines) and (here := last_field(plain)) and (there := last_field(masked(lines[number + 1]))):
+        below = lines[number + 1]
+        first, second = line[slice(*here)], below[slice(*there)]
+        if first != second:
+            yield "rows", [line[:here[0]] + second + line[here[1]:], below[:there[0]] + first + below[there[1]:]]
+
+
+def draw(qt, seed):
+    """All faults of each folder, in the order in which they are taken."""
+    for folder in ["ui/qt"] if qt else FOLDERS:
+        kinds, seen, size = collections.defaultdict(list), collections.Counter(), 0
+        for path in sorted((TREE / folder).glob("*.cpp")):
+            name = str(path.relative_to(TREE))
+            if name in LEFT_OUT:
+                continue
+            lines = path.read_text(encoding="utf-8").split("\n")
+            for number, line in enumerate(lines):
+                size += bool(masked(line).strip())
+                for kind, after in changes(lines, number):
+                    key = (kind, line.strip(), *map(str.strip, after))
+                    seen[key] += 1
+                    rank = hashlib.sha256(repr((seed, key, seen[key])).encode()).hexdigest()
+                    kinds[kind].append((rank, {"file": name, "line": number + 1, "kind": kind, "before": line.strip(), "after": after}))
+        for drawn in kinds.values():
+            drawn.sort(key=lambda entry: entry[0])
+        order = []
+        while any(kinds.values()):
+            order += [drawn.pop(0)[1] for _, drawn in sorted(kinds.items()) if drawn]
+        yield folder, size, order
+
+
+def limited():
+    resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30))
+
+
+class Bench:
+    """The copy, its build and its tests."""
+
+    def __init__(self, work, qt, every):
+        self.tree, self.build, self.every = work / "tree", work / "build", every
+        self.first, self.others = (["orvel_qt_tests"], []) if qt else (["orvel_tests", "story"], ["replay", "save_fuzz", "text_store_fuzz"])
+        self.environment = os.environ | {"TMPDIR": str(work / "tmp"), "QT_QPA_PLATFORM": "offscreen"}
+        self.copy()
+        header = work / "standard.h"
+        headers = PRECOMPILED + (["QApplication", "QPainter", "QWidget"] if qt else [])
+        if not header.exists():  # everything depends on it
+            header.write_text("".join(f"#include <{name}>\n" for name in headers))
+        linker = next((name for program, name in (("mold", "mold"), ("ld.lld", "lld")) if shutil.which(program)), None)
+        options = [f"-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld={linker}"] if linker else []
+        flags = "-O0 -w" + (self.qt_flags() if qt else "")
+        subprocess.run(["c++", "-std=c++20", *flags.split(), "-x", "c++-header", header, "-o", str(header) + ".gch"], check=True)
+        subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, f"-DORVEL_DESKTOP={'ON' if qt else 'OFF'}",
+                        f"-DCMAKE_CXX_FLAGS={flags} -include {header}", *options], check=True, stdout=subprocess.DEVNULL)
+        if not self.compiles(*self.first, *self.others):
+            sys.exit("the tree does not compile")
+        self.quick, self.slow = self.qt_tests() if qt else self.engine_tests()
+        self.catches = collections.Counter()
+
+    def qt_flags(self):
+        told = subprocess.run(["pkg-config", "--cflags", "Qt6Widgets"], check=True, capture_output=True, text=True)
+        return " -fPIC " + told.stdout.strip()
+
+    def copy(self):
+        names = subprocess.run(["git", "-C", TREE, "ls-files", "-z"], check=True, capture_output=True, text=True).stdout.split("\0")
+        for name in filter(None, names):
+            target = self.tree / name
+            target.parent.mkdir(parents=True, exist_ok=True)
+            if not target.exists() or target.read_bytes() != (TREE / name).read_bytes():
+                shutil.copy2(TREE / name, target)
+                target.touch()
+
+    def compiles(self, *targets):
+        return subprocess.run(["ninja", "-j1", "-C", self.build, *targets], capture_output=True).returncode == 0
+
+    def run(self, command):
+        """The output of a test that failed or hung, else nothing."""
+        shutil.rmtree(self.environment["TMPDIR"], ignore_errors=True)
+        os.mkdir(self.environment["TMPDIR"])
+        try:
+            done = subprocess.run(command, cwd=self.tree, env=self.environment, capture_output=True, timeout=LIMIT, preexec_fn=limited)
+        except subprocess.TimeoutExpired as hung:
+            return hung.stdout or b"hung"
+        return (done.stdout or b"failed") if done.returncode else b""
+
+    def gtest(self, names):
+        return [self.build / "tests/orvel_tests", "--gtest_filter=" + names] + ([] if self.every else ["--gtest_fail_fast"])
+
+    def qt_tests(self):
+        binary = self.build / "tests/qt/orvel_qt_tests"
+        return [("qt, " + scale, ["env", "QT_SCALE_FACTOR=" + scale, binary], 0) for scale in "12"], []
+
+    def engine_tests(self):
+        """Name, command and seconds of each test: the quick cases together, and the others."""
+        told = subprocess.run(self.gtest("*"), capture_output=True, text=True, env=self.environment)
+        times = {name: int(ms) / 1000 for name, ms in re.findall(r"OK \] (\S+)(?:, where .*)? \((\d+) ms\)", told.stdout)}
+        slow = [(name, self.gtest(name), seconds) for name, seconds in times.items() if seconds > SLOW]
+        for script in sorted(self.tree.glob("tests/walkthroughs/*.replay")):
+            command = [sys.executable, "tests/walkthroughs/run.py", self.build / "replay", self.build / "game", script]
+            begin = time.monotonic()
+            if self.run(command) or told.returncode:
+                sys.exit("the tests fail without a fault")
+            slow.append(("walkthrough." + script.stem, command, time.monotonic() - begin))
+        for corpus in ("save", "text_store"):
+            slow.append((corpus + "_corpus", [self.build / "fuzz" / (corpus + "_fuzz"), self.tree / "fuzz/corpus" / corpus], 0.1))
+        return [("quick", self.gtest("-" + ":".join(name for name, _, _ in slow)), 0)], slow
+
+    def reaches(self, name, folder):
+        """Whether a slow test runs any of the folder's code."""
+        return folder in ("saves", "core", "text") or not name.startswith(("SaveFormat.", "Durability.", "save_corpus", "text_store"))
+
+    def catchers(self, folder):
+        """The tests that fail now, and after how many seconds the first of them did. Those that have caught most come first."""
+        caught, begin, soon = [], time.monotonic(), None
+        slow = [test for test in self.slow if self.reaches(test[0], folder)]
+        slow.sort(key=lambda test: test[2] / (self.catches[test[0]] + 0.1))
+        for name, command, seconds in self.quick + slow:
+            if caught and seconds > self.every:
+                continue
+            if slow and name == slow[0][0] and not self.compiles(*self.others):
+                return ["build"], soon
+            if output := self.run(command):
+                self.catches[name] += 1
+                output = output.decode(errors="replace")
+                failed = re.findall(r"\[  FAILED  \] ([\w./]+).*\(\d+ ms\)", output)
+                started = re.findall(r"\[ RUN      \] (\S+)", output)
+                caught += failed or started[-1:] or [name]  # the last one started has crashed or hung
+                soon = soon or round(time.monotonic() - begin, 2)
+                if not self.every:
+                    break
+        return caught, soon
+
+    def seed(self, fault):
+        path = self.tree / fault["file"]
+        sound = path.read_bytes()
+        lines = sound.decode().split("\n")
+        lines[fault["line"] - 1:fault["line"] - 1 + len(fault["after"])] = fault["after"]
+        path.write_text("\n".join(lines), encoding="utf-8")
+        try:
+            if not self.compiles(*self.first):
+                return fault | {"outcome": "does not compile"}
+            caught, soon = self.catchers(fault["file"].partition("/")[0])
+            return fault | {"outcome": "caught" if caught else "missed", "by": caught, "seconds": soon}
+        finally:
+            path.write_bytes(sound)
+
+
+def report(results):
+    table = collections.defaultdict(collections.Counter)
+    for fault in results:
+        for row in (os.path.dirname(fault["file"]), fault["kind"], "all"):
+            table[row][fault["outcome"]] += 1
+    for row, counts in table.items():
+        tried = counts["caught"] + counts["missed"]
+        if tried:
+            print(f"{row:16} {counts['caught']:4} of {tried:4} caught, {100 * counts['caught'] / tried:5.1f} %")
+    for fault in results:
+        if fault["outcome"] == "missed":
+            print(f"{fault['file']}:{fault['line']}: {fault['kind']}: {fault['before']}  ->  {fault['after'][0].strip()}")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("work", type=pathlib.Path)
+    parser.add_argument("--count", type=int, default=300)
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--qt", action="store_true")
+    parser.add_argument("--every", type=float, default=0, metavar="SECONDS")
+    options = parser.parse_args()
+    work = options.work.resolve()
+    work.mkdir(parents=True, exist_ok=True)
+    (work / "tmp").mkdir(exist_ok=True)
+    notes = work / "faults.jsonl"
+    known = [json.loads(line) for line in notes.read_text().splitlines()] if notes.exists() else []
+    tried = {(fault["file"], fault["line"], *fault["after"]): fault for fault in known}
+    drawn = list(draw(options.qt, options.seed))
+    total = sum(size for _, size, _ in drawn)
+    bench, results = Bench(work, options.qt, options.every), []
+    with open(notes, "a", encoding="utf-8") as journal:
+        for folder, size, order in drawn:
+            wanted, lines = max(5, round(options.count * size / total)), set()
+            while wanted > 0 and order:
+                # A file's faults follow each other, so that each costs one compilation.
+                batch = []
+                while order and len(batch) < wanted:
+                    fault = order.pop(0)
+                    if (fault["file"], fault["line"]) not in lines:
+                        lines.add((fault["file"], fault["line"]))
+                        batch.append(fault)
+                for fault in sorted(batch, key=lambda each: (each["file"], each["line"])):
+                    result = tried.get((fault["file"], fault["line"], *fault["after"]))
+                    if result is None:
+                        result = bench.seed(fault)
+                        journal.write(json.dumps(result, ensure_ascii=False) + "\n")
+                        journal.flush()
+                    results.append(result)
+                    wanted -= result["outcome"] != "does not compile"
+    report(results)
+
+
+if __name__ == "__main__":
+    main()
