@@ -78,7 +78,7 @@ void List1_Click(Game& game) {
     const std::int16_t item = state.Inventory[static_cast<std::size_t>(carried.Selected())];
     if (state.CommandObject == NotChosen) {
         if (state.CommandVerb != verb::Take) ChooseObject(game, item);
-    } else if (state.CommandTarget == NotChosen && state.CommandVerb == verb::Use) {
+    } else if (state.CommandTarget == NotChosen && state.CommandObject >= 0 && state.CommandVerb == verb::Use) {
         ChooseTarget(game, item);
     }
 }
