@@ -112,12 +112,18 @@ void TalkToWorker(Game& game) {
     enum : TextNumber { WhispersAboutTheCrate = 116, Grumbles = 117, WavesOn = 118, TerminalFirst = 119, FindsTheRecord = 120 };
     GameState& state = game.state;
     if (state.CorridorEventSeen == False) return TellFirstOrLater(game, &GameState::WorkerGreeted, Grumbles, WavesOn);
-    if (state.HangarTerminalState < HangarTerminalStage::Repaired) {
-        return TellFirstOrLater(game, &GameState::WorkerWarned, WhispersAboutTheCrate, TerminalFirst);
+    if (state.CorridorEventSeen != True) return;
+    switch (state.HangarTerminalState) {
+        case HangarTerminalStage::Broken:
+        case HangarTerminalStage::Opened:
+        case HangarTerminalStage::DispenserFitted:
+            return TellFirstOrLater(game, &GameState::WorkerWarned, WhispersAboutTheCrate, TerminalFirst);
+        case HangarTerminalStage::Repaired:
+            Tell(game, FindsTheRecord);
+            RemoveItemFromSector(game, state.CurrentSector, Worker, Redraw::No);
+            return Place(game, Manual);
+        default: return;
     }
-    Tell(game, FindsTheRecord);
-    RemoveItemFromSector(game, state.CurrentSector, Worker, Redraw::No);
-    Place(game, Manual);
 }
 
 void AttendantOpensTheMeshDoor(Game& game) {
@@ -131,9 +137,13 @@ void AttendantOpensTheMeshDoor(Game& game) {
 void AskAttendantAboutTheOldDoor(Game& game) {
     enum : TextNumber { StuckForYears = 200, GladItWorks = 201, StillStuck = 202 };
     GameState& state = game.state;
-    if (state.OldDoorState < OldDoorStage::Repaired) return TellFirstOrLater(game, &GameState::OldDoorAsked, StuckForYears, StillStuck);
-    state.OldDoorState = OldDoorStage::Reported;
-    Tell(game, GladItWorks);
+    switch (state.OldDoorState) {
+        case OldDoorStage::Untouched:
+        case OldDoorStage::Examined: return TellFirstOrLater(game, &GameState::OldDoorAsked, StuckForYears, StillStuck);
+        case OldDoorStage::Repaired:
+        case OldDoorStage::ExaminedAgain: state.OldDoorState = OldDoorStage::Reported; return Tell(game, GladItWorks);
+        default: return;
+    }
 }
 
 void TalkToAttendant(Game& game) {

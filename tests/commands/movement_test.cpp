@@ -157,15 +157,6 @@ TEST(StepEvents, EndTheStoryWhenTheCaptainFindsHisWardrobeOpen) {
     EXPECT_EQ(play.State().GameOver, True);
 }
 
-TEST(StepEvents, WaitForFlagsThatAreExactlyTrue) {
-    Play play = Play::In(sector::Corridor);
-    GameState& state = play.State();
-    state.DocumentsTaken = state.DocumentsRead = state.Documents2Read = state.HangarEventSeen = 7;
-    play.Go("na východ");
-    EXPECT_THAT(play.Told(), ElementsAre(sector::EastEnd));
-    EXPECT_EQ(state.GameOver, False);
-}
-
 TEST(InnerRoom, EmptiesItsMailboxOnTheFirstVisit) {
     Play play = Play::In(sector::LabCorridor);
     GameState& state = play.State();

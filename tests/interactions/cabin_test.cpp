@@ -69,27 +69,4 @@ TEST(Terminals, StartOnlyForHimself) {
     EXPECT_EQ(play.Use(CabinTerminal, CabinTerminal).LastSaid(), Refusal);
 }
 
-// A loaded game may hold any number where the story keeps True or False.
-TEST(OddFlags, AreComparedAsTheStorySays) {
-    Play play = Play::InCabin({CabinKey, Tools});
-    GameState& state = play.State();
-    state.CabinDoorUnlocked = state.CabinDoorOpen = state.CabinWardrobeOpen = state.CupboardOpen = 7;
-    EXPECT_EQ(play.Open(CabinDoorInside).Said().front(), "Otevřel jsi dveře od své kajuty...");  // not locked, not yet open
-    state.CabinDoorOpen = 7;
-    EXPECT_EQ(play.Use(CabinKey, CabinDoorInside).Said().front(), "Odemkl jsi dveře speciálním klíčem...");
-    EXPECT_EQ(play.Use(CabinKey, CabinDoorInside).LastSaid(), "Nemůžeš zamknout dveře, když jsou otevřené!");
-    EXPECT_EQ(play.Close(CabinDoorInside).Said().front(), "Zavřel jsi dveře od své kajuty...");
-    EXPECT_THAT(play.Examine(CabinWardrobe).Told(), ElementsAre(21, sector::Cabin));
-    play.MoveTo(sector::Bathroom);
-    EXPECT_THAT(play.Examine(BathroomCupboard).Told(), ElementsAre(31));
-    play.MoveTo(sector::Laboratory);
-    state.ReplicatorState = state.HangarTerminalState = 7;
-    EXPECT_THAT(play.Examine(Replicator).Told(), ElementsAre(38));
-    EXPECT_EQ(play.Use(Tools, Replicator).LastSaid(), Refusal);
-    EXPECT_THAT(play.Talk(Scientist).Told(), ElementsAre(57));
-    play.MoveTo(sector::Hangar);
-    EXPECT_THAT(play.Examine(HangarTerminal).Told(), ElementsAre(102));
-    EXPECT_THAT(play.Use(HangarTerminal, Self).Told(), ElementsAre(132));
-}
-
 }  // namespace

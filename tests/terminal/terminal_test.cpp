@@ -117,6 +117,7 @@ TEST_F(Terminal, SendsTheLastTwelveCharacters) {
 
 TEST_F(Terminal, CallsTheCaptainToTheBridgeOnce) {
     const auto alert = [&] { return Answers({"send alert 102-x89-3156"}); };
+    state.BridgeAlertReady = 7;  // not True, as a loaded game may hold it
     EXPECT_EQ(alert().size(), 1);
     EXPECT_EQ(state.CaptainAlertState, CaptainAlertStage::Calm);
     EXPECT_EQ(state.TerminalMailbox[3], 1);
@@ -197,6 +198,7 @@ TEST_F(Terminal, TestsDnaInTheLaboratoryOnly) {
     EXPECT_THAT(Answers({"test dna processing"}), ElementsAre(Error, "Tento terminál neposkytuje potřebné vybavení pro testování DNA!"));
     StandAt(LabTerminal, sector::Laboratory);
     state.DnaSampleItem = NumberOf(SampleJunett);
+    state.DnaReferenceLoaded = 7;
     EXPECT_THAT(Answers({"test dna processing"}), ElementsAre(Error, missing));
     EXPECT_EQ(state.DnaSampleItem, NumberOf(SampleJunett));
     state.DnaReferenceLoaded = state.DnaSampleLoaded = True;
