@@ -103,10 +103,7 @@ void FillObjectList(Game& game) {
     ui::ListBox& objects = game.windows.Form1.List2[1];
     const SectorRecord& here = Here(game.state);
     if (game.state.CommandVerb == verb::Go) {
-        if (here.North == True) objects.Append("na sever");
-        if (here.South == True) objects.Append("na jih");
-        if (here.East == True) objects.Append("na východ");
-        if (here.West == True) objects.Append("na západ");
+        for (const Direction direction : OpenWays(here)) objects.Append(std::string("na ").append(WayTo(direction).Name));
         if (objects.Entries().empty()) objects.Append(NothingThere);
         return;
     }

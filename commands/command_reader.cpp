@@ -13,12 +13,11 @@ namespace {
 
 constexpr std::string_view VersionLine = "Verze programu: 1.0.42 (v1.01)";
 
-Direction DirectionOf(std::string_view entry) {
-    if (entry == "na sever") return Direction::North;
-    if (entry == "na jih") return Direction::South;
-    if (entry == "na východ") return Direction::East;
-    if (entry == "na západ") return Direction::West;
-    return Direction::None;
+// The list offers the open ways, or a single entry that is none.
+Direction ChosenDirection(const Game& game) {
+    const auto offered = OpenWays(game.state.Sectors[game.state.CurrentSector]);
+    const auto chosen = static_cast<std::size_t>(game.windows.Form1.List2[1].Selected());
+    return chosen < offered.size() ? offered[chosen] : Direction::None;
 }
 
 void OpenSystemPanel(Game& game) {
@@ -47,11 +46,7 @@ void RunObjectVerb(Game& game) {
 
 void RunVerb(Game& game) {
     switch (game.state.CommandVerb) {
-        case verb::Go: {
-            const Direction direction = DirectionOf(game.windows.Form1.List2[1].SelectedEntry());
-            game.state.CommandObject = static_cast<std::int16_t>(direction);
-            return MovePlayer(game, direction);
-        }
+        case verb::Go: return MovePlayer(game, ChosenDirection(game));
         case verb::Clear: return DescribeSector(game, game.state.CurrentSector, Output::Replace);
         case verb::Load:
         case verb::Save: return OpenSystemPanel(game);
