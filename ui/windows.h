@@ -2,11 +2,13 @@
 #pragma once
 
 #include <array>
-#include <span>
+#include <string_view>
 
 #include "ui/controls.h"
 
 namespace ui {
+
+constexpr std::string_view NothingThere = "---";  // the first entry of a list that offers nothing
 
 struct MainWindow {
     MainWindow();
