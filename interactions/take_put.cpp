@@ -22,7 +22,8 @@ bool IsPortable(Item item) {
 }
 
 void LeaveUniform(Game& game) {
-    Tell(game, 25);
+    enum : TextNumber { NotForThisShift = 25 };
+    Tell(game, NotForThisShift);
 }
 
 // The two that change hands close or are remembered even when there is no room for them.

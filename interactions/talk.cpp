@@ -35,14 +35,16 @@ void TalkToScientist(Game& game) {
 }
 
 void TellAgentAboutTheContainer(Game& game) {
-    Tell(game, 208);
-    Tell(game, 209);
+    enum : TextNumber { WorseWhenEmpty = 208, LookBehindThePanel = 209 };
+    Tell(game, WorseWhenEmpty);
+    Tell(game, LookBehindThePanel);
     Remove(game, ManInDarkGlasses);
     game.state.ContainerStoryState = ContainerStage::AgentTold;
 }
 
 void AgentReleasesTheCart(Game& game) {
-    Tell(game, 255);
+    enum : TextNumber { GetRidOfIt = 255 };
+    Tell(game, GetRidOfIt);
     RemoveItemFromSector(game, game.state.CurrentSector, Captain, Redraw::No);
     Remove(game, ManInDarkGlasses);
     game.state.CartReleased = True;
@@ -81,7 +83,8 @@ void TalkToManInDarkGlasses(Game& game) {
 }
 
 void TellCaptainAboutTheMatch(Game& game) {
-    Tell(game, 246);
+    enum : TextNumber { WhoseFingernail = 246 };
+    Tell(game, WhoseFingernail);
     RemoveItemFromSector(game, game.state.CurrentSector, Captain, Redraw::No);
     Remove(game, ManInDarkGlasses);
     AddItemToSector(game, sector::Hangar, ManInDarkGlasses, Redraw::No);
@@ -127,8 +130,9 @@ void TalkToWorker(Game& game) {
 }
 
 void AttendantOpensTheMeshDoor(Game& game) {
+    enum : TextNumber { TakeWhatYouNeed = 121 };
     game.state.WireDoorUnlocked = True;
-    Tell(game, 121);
+    Tell(game, TakeWhatYouNeed);
     game.state.Sectors[sector::Store].South = True;
     game.state.WireDoorOpen = True;
     RefreshSector(game);
