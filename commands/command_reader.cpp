@@ -7,7 +7,7 @@
 #include "core/stages.h"
 #include "core/verbs.h"
 #include "interactions/verbs.h"
-#include "saves/save_files.h"
+#include "saves/system_panel.h"
 
 namespace {
 
@@ -18,11 +18,6 @@ Direction ChosenDirection(const Game& game) {
     const auto offered = OpenWays(game.state.Sectors[game.state.CurrentSector]);
     const auto chosen = static_cast<std::size_t>(game.windows.Form1.List2[1].Selected());
     return chosen < offered.size() ? offered[chosen] : Direction::None;
-}
-
-void OpenSystemPanel(Game& game) {
-    ListSaves(game);
-    game.desktop.ShowModal(game.windows.Form4.Window);
 }
 
 void RunObjectVerb(Game& game) {
