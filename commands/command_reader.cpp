@@ -41,7 +41,9 @@ void RunObjectVerb(Game& game) {
 
 void RunVerb(Game& game) {
     switch (game.state.CommandVerb) {
-        case verb::Go: return MovePlayer(game, ChosenDirection(game));
+        case verb::Go:
+            game.state.CommandObject = static_cast<std::int16_t>(ChosenDirection(game));
+            return MovePlayer(game, Direction{game.state.CommandObject});
         case verb::Clear: return DescribeSector(game, game.state.CurrentSector, Output::Replace);
         case verb::Load:
         case verb::Save: return OpenSystemPanel(game);

@@ -26,7 +26,7 @@ struct SectorRecord {
     bool operator==(const SectorRecord&) const = default;
 };
 
-enum class Direction { North, South, East, West, None };
+enum class Direction : std::int16_t { North, South, East, West, None };
 
 // What it takes to leave a sector in a direction, and the step on the map.
 struct Way {
