@@ -24,7 +24,7 @@ public:
     }
 
     void Happens() {
-        for (std::int16_t number = 1; number <= NumberOf(HeatSensor); ++number) {
+        for (std::int16_t number = 1; number <= NumberOf(LastItem); ++number) {
             const Item item{number};
             for (const auto verb : {DoExamine, DoTalk, DoOpen, DoClose, DoTake}) {
                 DrawState();
@@ -50,7 +50,7 @@ public:
 private:
     std::int16_t Draw(int bound) { return static_cast<std::int16_t>(random() % static_cast<unsigned>(bound)); }
 
-    Item DrawItem() { return Item{static_cast<std::int16_t>(1 + Draw(NumberOf(HeatSensor)))}; }
+    Item DrawItem() { return Item{static_cast<std::int16_t>(1 + Draw(NumberOf(LastItem)))}; }
 
     void DrawState() {
         GameState& state = play.State();
