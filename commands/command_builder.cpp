@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr std::string_view NothingThere = "---";
-
 const SectorRecord& Here(const GameState& state) {
     return state.Sectors[state.CurrentSector];
 }
@@ -57,7 +55,7 @@ void VerbClick(Game& game) {
 
 void ObjectClick(Game& game) {
     const ui::ListBox& objects = game.windows.Form1.List2[1];
-    if (game.state.CommandObject != NotChosen || objects.Entry(0) == NothingThere) return;
+    if (game.state.CommandObject != NotChosen || objects.Entry(0) == ui::NothingThere) return;
     // The direction stays open to a second thought: the command reader finds it in the list.
     if (game.state.CommandVerb == verb::Go) return Echo(game, Sentence(game, objects.SelectedEntry()));
     ChooseObject(game, ItemHere(game.state, objects.Selected()));
@@ -74,11 +72,11 @@ void List1_Click(Game& game) {
     const ui::ListBox& carried = game.windows.Form1.List1;
     const GameState& state = game.state;
     if (state.GameStage == GameStage::Title || state.CommandVerb < verb::Examine || state.CommandVerb > verb::Talk) return;
-    if (carried.Entry(0) == NothingThere) return;
+    if (carried.Entry(0) == ui::NothingThere) return;
     const std::int16_t item = state.Inventory[static_cast<std::size_t>(carried.Selected())];
     if (state.CommandObject == NotChosen) {
         if (state.CommandVerb != verb::Take) ChooseObject(game, item);
-    } else if (state.CommandTarget == NotChosen && state.CommandVerb == verb::Use) {
+    } else if (state.CommandTarget == NotChosen && state.CommandObject >= 0 && state.CommandVerb == verb::Use) {
         ChooseTarget(game, item);
     }
 }
@@ -103,19 +101,16 @@ void FillObjectList(Game& game) {
     ui::ListBox& objects = game.windows.Form1.List2[1];
     const SectorRecord& here = Here(game.state);
     if (game.state.CommandVerb == verb::Go) {
-        if (here.North == True) objects.Append("na sever");
-        if (here.South == True) objects.Append("na jih");
-        if (here.East == True) objects.Append("na východ");
-        if (here.West == True) objects.Append("na západ");
-        if (objects.Entries().empty()) objects.Append(NothingThere);
+        for (const Direction direction : OpenWays(here)) objects.Append(std::string("na ").append(WayTo(direction).Name));
+        if (objects.Entries().empty()) objects.Append(ui::NothingThere);
         return;
     }
     if (game.state.CommandVerb != verb::Put) {
         for (const std::int16_t item : here.Items) objects.Append(ItemName(Item{item}));
     }
-    if (here.Items.empty()) objects.Append(NothingThere);
+    if (here.Items.empty()) objects.Append(ui::NothingThere);
     // What is put down is chosen among the carried things.
-    if (game.state.CommandVerb == verb::Put) objects.Append(NothingThere);
+    if (game.state.CommandVerb == verb::Put) objects.Append(ui::NothingThere);
 }
 
 void FillTargetList(Game& game) {

@@ -7,30 +7,24 @@
 #include "core/stages.h"
 #include "core/verbs.h"
 #include "interactions/verbs.h"
-#include "saves/save_files.h"
+#include "saves/system_panel.h"
 
 namespace {
 
 constexpr std::string_view VersionLine = "Verze programu: 1.0.42 (v1.01)";
 
-Direction DirectionOf(std::string_view entry) {
-    if (entry == "na sever") return Direction::North;
-    if (entry == "na jih") return Direction::South;
-    if (entry == "na východ") return Direction::East;
-    if (entry == "na západ") return Direction::West;
-    return Direction::None;
-}
-
-void OpenSystemPanel(Game& game) {
-    ListSaves(game);
-    game.desktop.ShowModal(game.windows.Form4.Window);
+// The list offers the open ways, or a single entry that is none.
+Direction ChosenDirection(const Game& game) {
+    const auto offered = OpenWays(game.state.Sectors[game.state.CurrentSector]);
+    const auto chosen = static_cast<std::size_t>(game.windows.Form1.List2[1].Selected());
+    return chosen < offered.size() ? offered[chosen] : Direction::None;
 }
 
 void RunObjectVerb(Game& game) {
     const ui::MainWindow& form = game.windows.Form1;
     const GameState& state = game.state;
     const ui::ListBox& offered = state.CommandVerb == verb::Put ? form.List1 : form.List2[1];
-    if (offered.Entry(0) == "---") return;
+    if (offered.Entry(0) == ui::NothingThere) return;
 
     const Item object{state.CommandObject};
     switch (state.CommandVerb) {
@@ -47,11 +41,9 @@ void RunObjectVerb(Game& game) {
 
 void RunVerb(Game& game) {
     switch (game.state.CommandVerb) {
-        case verb::Go: {
-            const Direction direction = DirectionOf(game.windows.Form1.List2[1].SelectedEntry());
-            game.state.CommandObject = static_cast<std::int16_t>(direction);
-            return MovePlayer(game, direction);
-        }
+        case verb::Go:
+            game.state.CommandObject = static_cast<std::int16_t>(ChosenDirection(game));
+            return MovePlayer(game, Direction{game.state.CommandObject});
         case verb::Clear: return DescribeSector(game, game.state.CurrentSector, Output::Replace);
         case verb::Load:
         case verb::Save: return OpenSystemPanel(game);

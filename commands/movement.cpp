@@ -41,13 +41,8 @@ constexpr auto SelfClosingDoors = std::to_array<Door>({
 });
 
 void Step(GameState& state, Direction direction) {
-    switch (direction) {
-        case Direction::North: --state.PlayerY; break;
-        case Direction::South: ++state.PlayerY; break;
-        case Direction::East: ++state.PlayerX; break;
-        case Direction::West: --state.PlayerX; break;
-        case Direction::None: break;
-    }
+    state.PlayerX = static_cast<std::int16_t>(state.PlayerX + WayTo(direction).X);
+    state.PlayerY = static_cast<std::int16_t>(state.PlayerY + WayTo(direction).Y);
     // No sector lies between the crossing and the west end: the passage takes one step.
     if (state.PlayerX == 3 && state.PlayerY == 2) state.PlayerX = direction == Direction::East ? 4 : 2;
 }

@@ -3,7 +3,5 @@
 
 #include "core/game.h"
 
-enum class Direction { North, South, East, West, None };
-
 // The exits are not asked: only open ones are offered as directions.
 void MovePlayer(Game& game, Direction direction);

@@ -120,9 +120,14 @@ enum class Item : std::int16_t {
     Self = 1001,
 };
 
+constexpr Item LastItem = Item::HeatSensor;
+
 constexpr std::int16_t NumberOf(Item item) {
     return static_cast<std::int16_t>(item);
 }
 
 // The form that follows a verb; empty for a number that stands for no item.
 std::string_view ItemName(Item item);
+
+// Whether the player can take it and put it down. What he may take when is up to the story.
+bool IsPortable(Item item);

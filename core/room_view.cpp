@@ -1,6 +1,5 @@
 #include "core/room_view.h"
 
-#include <array>
 #include <string>
 
 namespace {
@@ -18,13 +17,12 @@ std::string ItemsLine(const SectorRecord& record) {
 
 // The order of the view; the direction list of the main window has another.
 std::string ExitsLine(const SectorRecord& record) {
-    const auto exits = std::to_array<std::pair<Boolean, std::string_view>>(
-        {{record.North, "sever"}, {record.South, "jih"}, {record.West, "západ"}, {record.East, "východ"}});
     std::string names;
-    for (const auto& [open, name] : exits) {
-        if (open != True) continue;
+    for (const Direction direction : {Direction::North, Direction::South, Direction::West, Direction::East}) {
+        const Way& way = WayTo(direction);
+        if (record.*way.Exit != True) continue;
         if (!names.empty()) names += ", ";
-        names += name;
+        names += way.Name;
     }
     return names.empty() ? "Nemůžeš jít nikam." : "Můžeš jít na " + names + ".";
 }

@@ -59,6 +59,14 @@ void BuildSectors(SectorTable& sectors) {
     }
 }
 
+std::vector<Direction> OpenWays(const SectorRecord& sector) {
+    std::vector<Direction> open;
+    for (const Way& way : Ways) {
+        if (sector.*way.Exit == True) open.push_back(way.Towards);
+    }
+    return open;
+}
+
 std::int16_t FindSector(const SectorTable& sectors, std::int16_t x, std::int16_t y) {
     for (std::int16_t number = sector::Cabin; number <= LastSector; ++number) {
         if (sectors[number].X == x && sectors[number].Y == y) return number;

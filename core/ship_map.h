@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "core/items.h"
@@ -24,6 +25,32 @@ struct SectorRecord {
 
     bool operator==(const SectorRecord&) const = default;
 };
+
+enum class Direction : std::int16_t { North, South, East, West, None };
+
+// What it takes to leave a sector in a direction, and the step on the map.
+struct Way {
+    Direction Towards;
+    std::string_view Name;
+    Boolean SectorRecord::*Exit;
+    std::int16_t X, Y;
+};
+
+// In the order in which directions are offered.
+constexpr auto Ways = std::to_array<Way>({
+    {Direction::North, "sever", &SectorRecord::North, 0, -1},
+    {Direction::South, "jih", &SectorRecord::South, 0, 1},
+    {Direction::East, "východ", &SectorRecord::East, 1, 0},
+    {Direction::West, "západ", &SectorRecord::West, -1, 0},
+});
+
+// Not for Direction::None.
+constexpr const Way& WayTo(Direction direction) {
+    return Ways[static_cast<std::size_t>(direction)];
+}
+
+// The directions whose exits are open, in the order in which they are offered.
+std::vector<Direction> OpenWays(const SectorRecord& sector);
 
 namespace sector {
 enum : std::int16_t {

@@ -7,7 +7,6 @@ using State = GameState;
 using Exits = SectorRecord;
 
 constexpr std::string_view OpenedLab = "Otevřel jsi dveře od laboratoře...", ClosedLab = "Zavřel jsi dveře od laboratoře...";
-constexpr std::string_view Opened = "Otevřel jsi dveře...", Closed = "Zavřel jsi dveře...";
 constexpr std::string_view OpenedGuest = "Otevřel jsi dveře od kajuty...", ClosedGuest = "Zavřel jsi dveře od kajuty...";
 constexpr std::string_view OpenedCaptain = "Otevřel jsi dveře do kapitánovy kajuty...",
                            ClosedCaptain = "Zavřel jsi dveře do kapitánovy kajuty...";
@@ -25,8 +24,8 @@ constexpr auto Sides = std::to_array<DoorSide>({
      "Zavřel jsi dveře do koupelny...", "Dveře do koupelny jsou již otevřené!", "Dveře do koupelny jsou již zavřené!"},
     {BathroomDoorInside, &State::BathroomDoorOpen, sector::Bathroom, &Exits::North, nullptr, "Otevřel jsi dveře do kajuty...",
      "Zavřel jsi dveře do kajuty...", "Dveře do kajuty jsou již otevřené!", "Dveře do kajuty jsou již zavřené!"},
-    {KeypadDoorOutside, &State::KeypadDoorOpen, sector::LabCorridor, &Exits::East, &State::KeypadDoorUnlocked, Opened, Closed},
-    {KeypadDoorInside, &State::KeypadDoorOpen, sector::InnerRoom, &Exits::West, &State::KeypadDoorUnlocked, Opened, Closed},
+    {KeypadDoorOutside, &State::KeypadDoorOpen, sector::LabCorridor, &Exits::East, &State::KeypadDoorUnlocked, DoorOpened, DoorClosed},
+    {KeypadDoorInside, &State::KeypadDoorOpen, sector::InnerRoom, &Exits::West, &State::KeypadDoorUnlocked, DoorOpened, DoorClosed},
     {LabDoorOutside, &State::LabDoorOpen, sector::LabCorridor, &Exits::West, nullptr, OpenedLab, ClosedLab},
     {LabDoorInside, &State::LabDoorOpen, sector::Laboratory, &Exits::East, nullptr, OpenedLab, ClosedLab},
     {GuestCabinDoorOutside, &State::SecondCabinDoorOpen, sector::WestEnd, &Exits::South, nullptr, OpenedGuest, ClosedGuest},

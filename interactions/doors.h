@@ -6,6 +6,9 @@
 
 #include "core/game_state.h"
 
+constexpr std::string_view DoorOpened = "Otevřel jsi dveře...", DoorAlreadyOpen = "Dveře jsou již otevřené!";
+constexpr std::string_view DoorClosed = "Zavřel jsi dveře...", DoorAlreadyClosed = "Dveře jsou již zavřené!";
+
 struct DoorSide {
     Item Side;
     Boolean GameState::*Open;
@@ -13,8 +16,8 @@ struct DoorSide {
     Boolean SectorRecord::*Exit;
     Boolean GameState::*Unlocked;  // null: it has no lock
     std::string_view Opened, Closed;
-    std::string_view AlreadyOpen = "Dveře jsou již otevřené!";
-    std::string_view AlreadyClosed = "Dveře jsou již zavřené!";
+    std::string_view AlreadyOpen = DoorAlreadyOpen;
+    std::string_view AlreadyClosed = DoorAlreadyClosed;
 };
 
 std::span<const DoorSide> DoorSides();

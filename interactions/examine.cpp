@@ -123,11 +123,11 @@ void ExamineOfficeWardrobe(Game& game) {
 void ExamineOperatingTerminal(Game& game) {
     enum : TextNumber { Looks = 168, Complete = 178, OnlyCable = 179, OnlyTester = 180 };
     Tell(game, Looks);
-    const bool cable = game.state.CableConnected == True;
-    const bool tester = game.state.TesterConnected == True;
-    if (cable && tester) return Tell(game, Complete);
-    if (cable) return Tell(game, OnlyCable);
-    if (tester) return Tell(game, OnlyTester);
+    const Boolean cable = game.state.CableConnected;
+    const Boolean tester = game.state.TesterConnected;
+    if (cable == True && tester == True) return Tell(game, Complete);
+    if (cable == True && tester == False) return Tell(game, OnlyCable);
+    if (cable == False && tester == True) return Tell(game, OnlyTester);
 }
 
 void ExamineCaptainWardrobe(Game& game) {

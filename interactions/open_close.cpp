@@ -69,9 +69,9 @@ void CloseDoor(Game& game, const DoorSide& door) {
 void OpenOldDoor(Game& game) {
     GameState& state = game.state;
     if (state.OldDoorState < OldDoorStage::Repaired) return Tell(game, OldDoorStuck);
-    if (state.OldDoorOpen == True) return WriteOutput(game, "Dveře jsou již otevřené!");
+    if (state.OldDoorOpen == True) return WriteOutput(game, DoorAlreadyOpen);
     state.OldDoorOpen = True;
-    WriteOutput(game, "Otevřel jsi dveře...");
+    WriteOutput(game, DoorOpened);
     if (state.ContainerStoryState == ContainerStage::Hidden) {
         state.ContainerStoryState = ContainerStage::Found;
         Tell(game, ContainerFound);
@@ -80,9 +80,9 @@ void OpenOldDoor(Game& game) {
 }
 
 void CloseOldDoor(Game& game) {
-    if (game.state.OldDoorOpen == False) return WriteOutput(game, "Dveře jsou již zavřené!");
+    if (game.state.OldDoorOpen == False) return WriteOutput(game, DoorAlreadyClosed);
     game.state.OldDoorOpen = False;
-    WriteOutput(game, "Zavřel jsi dveře...");
+    WriteOutput(game, DoorClosed);
     Remove(game, Container);
 }
 

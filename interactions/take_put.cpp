@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <array>
-
 #include "core/carrying.h"
 #include "interactions/answers.h"
 #include "interactions/verbs.h"
@@ -9,20 +6,9 @@ namespace {
 
 using enum Item;
 
-constexpr auto Portable = std::to_array<Item>({
-    Tools,        ScrapOfPaper,  CabinKey,      SecurityCard, SampleVega,        OldDiskette, DataCable,     Briefcase,
-    Newspaper,    Authorisation, Fingernail,    Plans,        OperatingTerminal, Diskette,    Documents,     Documents2,
-    Manual,       Message,       Cart,          Coil,         FloppyDrive,       Tester,      IonDispenser,  Detonator,
-    SampleJunett, SampleDeyopel, SampleDebadon, Towel,        SlipOfPaper,       Pencil,      EmptyTestTube, MetalRod,
-    HeatSensor,
-});
-
-bool IsPortable(Item item) {
-    return std::ranges::find(Portable, item) != Portable.end();
-}
-
 void LeaveUniform(Game& game) {
-    Tell(game, 25);
+    enum : TextNumber { NotForThisShift = 25 };
+    Tell(game, NotForThisShift);
 }
 
 // The two that change hands close or are remembered even when there is no room for them.

@@ -35,14 +35,16 @@ void TalkToScientist(Game& game) {
 }
 
 void TellAgentAboutTheContainer(Game& game) {
-    Tell(game, 208);
-    Tell(game, 209);
+    enum : TextNumber { WorseWhenEmpty = 208, LookBehindThePanel = 209 };
+    Tell(game, WorseWhenEmpty);
+    Tell(game, LookBehindThePanel);
     Remove(game, ManInDarkGlasses);
     game.state.ContainerStoryState = ContainerStage::AgentTold;
 }
 
 void AgentReleasesTheCart(Game& game) {
-    Tell(game, 255);
+    enum : TextNumber { GetRidOfIt = 255 };
+    Tell(game, GetRidOfIt);
     RemoveItemFromSector(game, game.state.CurrentSector, Captain, Redraw::No);
     Remove(game, ManInDarkGlasses);
     game.state.CartReleased = True;
@@ -81,7 +83,8 @@ void TalkToManInDarkGlasses(Game& game) {
 }
 
 void TellCaptainAboutTheMatch(Game& game) {
-    Tell(game, 246);
+    enum : TextNumber { WhoseFingernail = 246 };
+    Tell(game, WhoseFingernail);
     RemoveItemFromSector(game, game.state.CurrentSector, Captain, Redraw::No);
     Remove(game, ManInDarkGlasses);
     AddItemToSector(game, sector::Hangar, ManInDarkGlasses, Redraw::No);
@@ -112,17 +115,24 @@ void TalkToWorker(Game& game) {
     enum : TextNumber { WhispersAboutTheCrate = 116, Grumbles = 117, WavesOn = 118, TerminalFirst = 119, FindsTheRecord = 120 };
     GameState& state = game.state;
     if (state.CorridorEventSeen == False) return TellFirstOrLater(game, &GameState::WorkerGreeted, Grumbles, WavesOn);
-    if (state.HangarTerminalState < HangarTerminalStage::Repaired) {
-        return TellFirstOrLater(game, &GameState::WorkerWarned, WhispersAboutTheCrate, TerminalFirst);
+    if (state.CorridorEventSeen != True) return;
+    switch (state.HangarTerminalState) {
+        case HangarTerminalStage::Broken:
+        case HangarTerminalStage::Opened:
+        case HangarTerminalStage::DispenserFitted:
+            return TellFirstOrLater(game, &GameState::WorkerWarned, WhispersAboutTheCrate, TerminalFirst);
+        case HangarTerminalStage::Repaired:
+            Tell(game, FindsTheRecord);
+            RemoveItemFromSector(game, state.CurrentSector, Worker, Redraw::No);
+            return Place(game, Manual);
+        default: return;
     }
-    Tell(game, FindsTheRecord);
-    RemoveItemFromSector(game, state.CurrentSector, Worker, Redraw::No);
-    Place(game, Manual);
 }
 
 void AttendantOpensTheMeshDoor(Game& game) {
+    enum : TextNumber { TakeWhatYouNeed = 121 };
     game.state.WireDoorUnlocked = True;
-    Tell(game, 121);
+    Tell(game, TakeWhatYouNeed);
     game.state.Sectors[sector::Store].South = True;
     game.state.WireDoorOpen = True;
     RefreshSector(game);
@@ -131,9 +141,13 @@ void AttendantOpensTheMeshDoor(Game& game) {
 void AskAttendantAboutTheOldDoor(Game& game) {
     enum : TextNumber { StuckForYears = 200, GladItWorks = 201, StillStuck = 202 };
     GameState& state = game.state;
-    if (state.OldDoorState < OldDoorStage::Repaired) return TellFirstOrLater(game, &GameState::OldDoorAsked, StuckForYears, StillStuck);
-    state.OldDoorState = OldDoorStage::Reported;
-    Tell(game, GladItWorks);
+    switch (state.OldDoorState) {
+        case OldDoorStage::Untouched:
+        case OldDoorStage::Examined: return TellFirstOrLater(game, &GameState::OldDoorAsked, StuckForYears, StillStuck);
+        case OldDoorStage::Repaired:
+        case OldDoorStage::ExaminedAgain: state.OldDoorState = OldDoorStage::Reported; return Tell(game, GladItWorks);
+        default: return;
+    }
 }
 
 void TalkToAttendant(Game& game) {

@@ -16,14 +16,16 @@ void TakeMeal(Game& game) {
 }
 
 void GiveNewspaper(Game& game) {
-    Tell(game, 147);
+    enum : TextNumber { DeepInTheNewspaper = 147 };
+    Tell(game, DeepInTheNewspaper);
     game.state.NewspaperGiven = True;
     RemoveFromInventory(game, Item::Newspaper);
 }
 
 void ShowAuthorisation(Game& game) {
+    enum : TextNumber { LetsHimPass = 153 };
     GameState& state = game.state;
-    Tell(game, 153);
+    Tell(game, LetsHimPass);
     // The guard leads him in himself, so no door is asked and no step event waits.
     state.PlayerX = 1;
     state.PlayerY = 2;
@@ -35,7 +37,8 @@ void ShowAuthorisation(Game& game) {
 }
 
 void GivePlans(Game& game) {
-    Tell(game, 173);
+    enum : TextNumber { NotHisCross = 173 };
+    Tell(game, NotHisCross);
     RemoveFromInventory(game, Item::Plans);
 }
 

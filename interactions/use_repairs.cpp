@@ -20,8 +20,9 @@ void RepairReplicator(Game& game) {
 }
 
 void FitCoil(Game& game) {
+    enum : TextNumber { CoilSlidesIn = 47 };
     if (game.state.ReplicatorState != ReplicatorStage::Opened) return Refuse(game);
-    Tell(game, 47);
+    Tell(game, CoilSlidesIn);
     game.state.ReplicatorState = ReplicatorStage::CoilFitted;
     RemoveFromInventory(game, Item::Coil);
 }
@@ -53,8 +54,9 @@ void RepairHangarTerminal(Game& game) {
 }
 
 void FitIonDispenser(Game& game) {
+    enum : TextNumber { DispenserClicksIn = 111 };
     if (game.state.HangarTerminalState != HangarTerminalStage::Opened) return Refuse(game);
-    Tell(game, 111);
+    Tell(game, DispenserClicksIn);
     game.state.HangarTerminalState = HangarTerminalStage::DispenserFitted;
     RemoveFromInventory(game, Item::IonDispenser);
 }

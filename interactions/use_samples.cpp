@@ -21,13 +21,15 @@ void ReadDiskette(Game& game) {
 }
 
 void FitFloppyDrive(Game& game) {
+    enum : TextNumber { DriveIsIn = 223 };
     game.state.ComputerState = ComputerStage::DriveFitted;
-    Tell(game, 223);
+    Tell(game, DriveIsIn);
     RemoveFromInventory(game, Item::FloppyDrive);
 }
 
 void ReadOldDiskette(Game& game) {
-    Tell(game, 231);
+    enum : TextNumber { FourNamesMore = 231 };
+    Tell(game, FourNamesMore);
     RemoveFromInventory(game, Item::OldDiskette);
     game.state.OldDisketteUsed = True;
     Remove(game, Item::ManInDarkGlasses);
@@ -44,14 +46,16 @@ void LoadSample(Game& game, Item sample, TextNumber text) {
 }
 
 void LoadReference(Game& game) {
+    enum : TextNumber { ReferenceIsIn = 237 };
     if (game.state.OldDisketteUsed == False) return Refuse(game);
     game.state.DnaReferenceLoaded = True;
     RemoveFromInventory(game, Item::Fingernail);
-    Tell(game, 237);
+    Tell(game, ReferenceIsIn);
 }
 
 void LoadBomb(Game& game) {
-    Tell(game, 257);
+    enum : TextNumber { BombIsOnTheCart = 257 };
+    Tell(game, BombIsOnTheCart);
     game.state.BombOnCart = True;
     Remove(game, Item::SeismicBomb);
 }

@@ -18,7 +18,8 @@ int Draw(const Game& game, int bound) {
 }
 
 void EraseDoorCode(Game& game) {
-    Tell(game, 211);
+    enum : TextNumber { CodeErased = 211 };
+    Tell(game, CodeErased);
     game.state.DoorCode.clear();
     game.state.KeypadDisabled = True;
     game.state.KeypadDoorUnlocked = False;
@@ -31,7 +32,8 @@ void StartTerminal(Game& game, Item terminal) {
 }
 
 void StartHangarTerminal(Game& game) {
-    if (game.state.HangarTerminalState != HangarTerminalStage::Repaired) return Tell(game, 132);
+    enum : TextNumber { ScreenStaysDark = 132 };
+    if (game.state.HangarTerminalState != HangarTerminalStage::Repaired) return Tell(game, ScreenStaysDark);
     OpenTerminal(game, Item::HangarTerminal);
 }
 
@@ -40,24 +42,27 @@ void TypeOnKeypad(Game& game) {
 }
 
 void ConnectCable(Game& game) {
-    Tell(game, 176);
+    enum : TextNumber { CableClicksIn = 176 };
+    Tell(game, CableClicksIn);
     game.state.CableConnected = True;
     RemoveFromInventory(game, Item::DataCable);
 }
 
 void ConnectTester(Game& game) {
-    Tell(game, 177);
+    enum : TextNumber { TesterClicksIn = 177 };
+    Tell(game, TesterClicksIn);
     game.state.TesterConnected = True;
     RemoveFromInventory(game, Item::Tester);
 }
 
 void ReprogramKeypad(Game& game) {
+    enum : TextNumber { MemoryRead = 181 };
     GameState& state = game.state;
     if (state.CableConnected == False || state.TesterConnected == False) return Refuse(game);
     if (state.ContainerStoryState == ContainerStage::AgentTold && state.KeypadDisabled == False) return EraseDoorCode(game);
     if (state.KeypadDisabled == True) return WriteOutput(game, "Raději ne...");
 
-    Tell(game, 181);
+    Tell(game, MemoryRead);
     if (state.CalledAwayState == CalledAwayStage::Inside) {
         WriteOutput(game,
                     "Potom se objevilo, že starý kód byl naposledy použit na druhé straně dveří, znamená to tedy, že je někdo uvnitř.");

@@ -82,22 +82,18 @@ std::int16_t DrawKey(Game& game) {
 
 }  // namespace
 
-void ListSaves(Game& game) {
-    std::vector<std::string> files;
+std::vector<std::string> SaveNames(const Game& game) {
+    std::vector<std::string> names;
     try {
         MakeFolder(SavesFolder(game));
-        files = FilesIn(SavesFolder(game));
+        for (const std::string& file : FilesIn(SavesFolder(game))) {
+            // The panel refuses "?": such a file is seen but never touched.
+            if (IsSave(file)) names.push_back(text::ReplaceForeignCharacters(SaveName(file)));
+        }
     } catch (const std::system_error& error) {
-        // Not thrown on: the panel is to open all the same, since what is wrong may be put right while it is there.
-        game.desktop.ShowMessageBox(Explain("Uložené pozice se nepodařilo vypsat.", error), "Chyba");
+        throw ui::GameError(Explain("Uložené pozice se nepodařilo vypsat.", error));
     }
-    ui::SystemWindow& panel = game.windows.Form4;
-    panel.List1.Clear();
-    panel.Text1.SetText("");
-    for (const std::string& file : files) {
-        // A foreign character becomes "?", which the panel refuses: such a file is seen but never touched.
-        if (IsSave(file)) panel.List1.Append(text::ReplaceForeignCharacters(SaveName(file)));
-    }
+    return names;
 }
 
 void SaveGame(Game& game, std::string_view name) {

@@ -1,12 +1,14 @@
 // The saved games, one file each in data/saves of the program folder. File trouble is thrown as GameError before anything has changed.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/game.h"
 
-// Empties the System Panel and fills its list. A folder that cannot be read is told in a message box, the list then stays empty.
-void ListSaves(Game& game);
+// The names of the saved games in the order of their files. A character that no name can have stands as "?".
+std::vector<std::string> SaveNames(const Game& game);
 
 // Replaces a game that was saved under the same name.
 void SaveGame(Game& game, std::string_view name);

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "core/verbs.h"
 #include "saves/save_files.h"
 #include "text/characters.h"
+#include "ui/errors.h"
 #include "ui/input.h"
 
 namespace {
@@ -50,6 +52,25 @@ bool List1_KeyPress(Game& game, char32_t key) {
 }
 
 }  // namespace
+
+void ListSaves(Game& game) {
+    std::vector<std::string> names;
+    try {
+        names = SaveNames(game);
+    } catch (const ui::GameError& error) {
+        // Not thrown on: the panel is to open all the same, since what is wrong may be put right while it is there.
+        game.desktop.ShowMessageBox(error.what(), "Chyba");
+    }
+    ui::SystemWindow& panel = game.windows.Form4;
+    panel.List1.Clear();
+    panel.Text1.SetText("");
+    for (const std::string& name : names) panel.List1.Append(name);
+}
+
+void OpenSystemPanel(Game& game) {
+    ListSaves(game);
+    game.desktop.ShowModal(game.windows.Form4.Window);
+}
 
 void ConnectForm4(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;

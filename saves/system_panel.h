@@ -3,5 +3,10 @@
 
 #include "core/game.h"
 
-// Connects the panel's events; the start-up calls it once.
 void ConnectForm4(Game& game);
+
+// Empties the panel and fills its list. Saved games that cannot be listed are told in a message box, the list then stays empty.
+void ListSaves(Game& game);
+
+// Lists the saved games and shows the panel; returns when it has been closed. CommandVerb says whether it loads or saves.
+void OpenSystemPanel(Game& game);

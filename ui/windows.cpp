@@ -26,7 +26,7 @@ MainWindow::MainWindow()
       Label3(Row(Form1Layout, "Label3")),
       Label1(Row(Form1Layout, "Label1")),
       Window{.Layout = Form1Layout, .Controls = {&Text1, &Text2, &List1, &List2[0], &List2[1], &List2[2], &Label3, &Label1}} {
-    List1.Append("---");
+    List1.Append(NothingThere);
     for (const std::string_view verb : VerbEntries) List2[0].Append(verb);
 }
 

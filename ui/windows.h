@@ -2,41 +2,49 @@
 #pragma once
 
 #include <array>
-#include <span>
+#include <string_view>
 
 #include "ui/controls.h"
 
 namespace ui {
 
+constexpr std::string_view NothingThere = "---";  // the first entry of a list that offers nothing
+
 struct MainWindow {
     MainWindow();
-    TextBox Text1, Text2;
-    ListBox List1;
-    std::array<ListBox, 3> List2;
-    Label Label3, Label1;
+    TextBox Text1;                 // output
+    TextBox Text2;                 // command line
+    ListBox List1;                 // carried things
+    std::array<ListBox, 3> List2;  // verbs, objects, targets
+    Label Label3;                  // caption of the button
+    Label Label1;                  // what takes the click on it
     Form Window;
 };
 
 struct TerminalWindow {
     TerminalWindow();
-    TextBox Text1, Text2;
-    Label Label1, Label2;
+    TextBox Text1;  // output
+    TextBox Text2;  // input line
+    Label Label1;   // caption of the button
+    Label Label2;   // what takes the click on it
     Form Window;
 };
 
 struct KeypadWindow {
     KeypadWindow();
-    Label Label1;
-    TextBox Text1;
-    Label Label2, Label3;
+    Label Label1;   // display
+    TextBox Text1;  // code entry
+    Label Label2;   // caption of the button
+    Label Label3;   // what takes the click on it
     Form Window;
 };
 
 struct SystemWindow {
     SystemWindow();
-    ListBox List1;
-    TextBox Text1;
-    Label Label1, Label2;
+    ListBox List1;  // saved games
+    TextBox Text1;  // command line
+    Label Label1;   // caption of the button
+    Label Label2;   // what takes the click on it
     Form Window;
 };
 

@@ -96,6 +96,14 @@ TEST_F(CommandLine, OffersWhatTheVerbCanBeDoneWith) {
     EXPECT_EQ(Shown(), "Verze");
 }
 
+TEST_F(CommandLine, UsesNothingThatIsNoItem) {
+    play.State().Sectors[sector::Cabin].Items.front() = -5;  // as a loaded game may hold it
+    play.Choose(verb::Use);
+    ClickObject(0);
+    ClickCarried(0);
+    EXPECT_EQ(play.State().CommandTarget, NotChosen);
+}
+
 TEST_F(CommandLineAtTheCrossing, OffersDirectionsUntilItIsRun) {
     play.Choose(verb::Go);
     EXPECT_THAT(form.List2[1].Entries(), ElementsAre("na sever", "na východ", "na západ"));

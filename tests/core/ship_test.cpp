@@ -33,7 +33,7 @@ TEST(Ship, HoldsEveryItemOnceUnlessTheStoryBringsItLater) {
     for (const SectorRecord& each : ship.All()) {
         for (const std::int16_t item : each.Items) ++count[item];
     }
-    EXPECT_EQ(count.size(), 110 - 28 - 1);  // 28 come later and one never does
+    EXPECT_EQ(count.size(), NumberOf(LastItem) - 28 - 1);  // 28 come later and one never does
     for (const auto& [item, times] : count) {
         EXPECT_EQ(times, 1) << item;
         EXPECT_NE(ItemName(Item{item}), "") << item;
@@ -51,7 +51,7 @@ TEST(Ship, MovesTheLastItemIntoAGap) {
 
 TEST(ItemName, IsEmptyForWhatIsNoItem) {
     for (const int number : {-1, 0, 111, 1000, 1002}) EXPECT_EQ(ItemName(Item{static_cast<std::int16_t>(number)}), "");
-    EXPECT_EQ(ItemName(HeatSensor), "tepelný snímač");
+    EXPECT_EQ(ItemName(LastItem), "tepelný snímač");
     EXPECT_EQ(ItemName(Self), "sebe");
 }
 

@@ -68,10 +68,7 @@ struct SavedGames {
             return true;
         };
         game.state.CommandVerb = verb;
-        desktop.RunEvent([&] {
-            ListSaves(game);
-            desktop.ShowModal(panel.Window);
-        });
+        desktop.RunEvent([&] { OpenSystemPanel(game); });
     }
 
     std::function<void()> Line(const std::string& line) {
