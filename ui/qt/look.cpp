@@ -46,7 +46,7 @@ QString ToQt(std::string_view utf8) {
 }
 
 std::string FromQt(const QString& text) {
-    return text.toStdString();
+    return text.normalized(QString::NormalizationForm_C).toStdString();
 }
 
 }  // namespace ui::qt
