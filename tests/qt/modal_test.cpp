@@ -1,23 +1,14 @@
 // Panels that block, the end of the program from wherever it happens, and errors that the player is told.
 #include <gmock/gmock.h>
 
-#include <QMessageBox>
-#include <QTimer>
-
 #include "tests/qt/screen.h"
 
 using namespace ui;
 
 namespace {
 
-// Runs while an inner event loop waits.
-void Later(const std::function<void()>& event) {
-    QTimer::singleShot(0, qApp, event);
-}
-
 struct Opened : Screen {
     Opened() {
-        Show(windows.Form1.Window);
         windows.Form1.Label1.Click = [this] {
             desktop.ShowModal(windows.Form3.Window);
             cameBack = true;
