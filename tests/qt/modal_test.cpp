@@ -105,7 +105,10 @@ TEST(QtErrors, AreToldInAMessageBoxAndTheGameGoesOn) {
 TEST(QtErrors, LetTheCloseBoxEndTheGameBehindThem) {
     Opened screen;
     Later([&] {
-        Later([&] { screen.Widget(screen.windows.Form1.Window).close(); });
+        Later([&] {
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);  // a click on the close box would not come through
+            screen.Widget(screen.windows.Form1.Window).close();
+        });
         screen.Do([] { throw std::bad_alloc(); });
     });
     screen.OpenPanel();

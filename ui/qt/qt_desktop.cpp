@@ -83,7 +83,7 @@ void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
     openBox = &message;
     Mirror();
     message.setEnabled(true);  // which its owner is not
-    // Were it modal for Qt, no close box would work behind it.
+    message.setModal(false);   // for Qt, which would let no close box work behind it
     message.show();
     RunLoop();
     openBox = nullptr;
