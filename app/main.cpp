@@ -15,8 +15,10 @@ namespace fs = std::filesystem;
 // The folder that the program was called in, so that a link to it may stand among a player's own data; a link that stands alone leads
 // to the program's real folder.
 fs::path ProgramFolder(std::string_view calledAs) {
-    const fs::path folder = fs::absolute(calledAs).parent_path();
-    if (calledAs.find('/') != std::string_view::npos && fs::exists(folder / "data")) return folder;
+    if (calledAs.find('/') != std::string_view::npos) {
+        const fs::path folder = fs::absolute(calledAs).parent_path();
+        if (fs::exists(folder / "data")) return folder;
+    }
     return fs::read_symlink("/proc/self/exe").parent_path();
 }
 

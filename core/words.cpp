@@ -41,7 +41,11 @@ std::string WordReader::TakeText(std::size_t length, std::int16_t key) {
     for (std::size_t i = 0; i < length; ++i) {
         const auto code = static_cast<std::int16_t>(Take() - key);
         if (code < 0 || code > 255) Refuse();
-        text::AppendCharacter(text, text::FromWindows1250(static_cast<std::uint8_t>(code)));
+        if (code < 0x80) {
+            text.push_back(static_cast<char>(code));  // most are, and every start decodes all the texts
+        } else {
+            text::AppendCharacter(text, text::FromWindows1250(static_cast<std::uint8_t>(code)));
+        }
     }
     return text;
 }

@@ -1,17 +1,20 @@
 #include "saves/durable_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <string_view>
+#include <utility>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-// The name of a file that is being written; a program that was interrupted leaves it behind. Between the two stands the number of the
-// process, so that two running games never write the same one.
+// The name of a file that is being written; a program that was interrupted leaves it behind. Between the two stand the number of the
+// process and a count, so that two running games never write the same one.
 constexpr std::string_view DraftPrefix = ".saving-";
 constexpr std::string_view DraftSuffix = ".tmp";
 
@@ -24,9 +27,21 @@ public:
     OpenFile(const fs::path& path, int flags) : descriptor(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {
         if (descriptor < 0) Fail();
     }
-    ~OpenFile() { ::close(descriptor); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
+    OpenFile(OpenFile&& other) noexcept : descriptor(std::exchange(other.descriptor, -1)) {}
+    OpenFile& operator=(OpenFile&&) = delete;
+    ~OpenFile() {
+        if (descriptor >= 0) ::close(descriptor);
+    }
+
+    // Held until the file is closed, which the end of a process does as well. False when another holds it; on a file system that knows
+    // no locks nobody does.
+    bool Lock() { return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+
+    bool IsAt(const fs::path& path) const {
+        struct stat mine, there;
+        return ::fstat(descriptor, &mine) == 0 && ::lstat(path.c_str(), &there) == 0 && mine.st_dev == there.st_dev &&
+               mine.st_ino == there.st_ino;
+    }
 
     void Write(std::span<const std::uint8_t> bytes) {
         while (!bytes.empty()) {
@@ -48,12 +63,10 @@ private:
     int descriptor;
 };
 
-// Vanishes unless it takes the place of the real file.
+// A lock tells that its writer lives. Vanishes unless it takes the place of the real file.
 class Draft {
 public:
-    explicit Draft(const fs::path& folder)
-        : path(folder / (std::string(DraftPrefix) + std::to_string(::getpid()).append(DraftSuffix))),
-          file(path, O_WRONLY | O_CREAT | O_EXCL) {}
+    explicit Draft(const fs::path& folder) : file(Make(folder)) {}
     ~Draft() {
         if (!path.empty()) ::unlink(path.c_str());
     }
@@ -71,33 +84,52 @@ public:
     }
 
 private:
+    OpenFile Make(const fs::path& folder) {
+        constexpr int MostTries = 100;
+        for (int count = 0;; ++count) {
+            path = folder / (std::string(DraftPrefix) + std::to_string(::getpid()) + '-' + std::to_string(count).append(DraftSuffix));
+            try {
+                OpenFile made(path, O_WRONLY | O_CREAT | O_EXCL);
+                // Before it was locked, another game may have swept it.
+                if (made.Lock() && made.IsAt(path)) return made;
+            } catch (const std::system_error& error) {
+                // Games in containers may have the same number and share the folder.
+                if (error.code() != std::errc::file_exists || count >= MostTries) throw;
+            }
+        }
+    }
+
     fs::path path;
     OpenFile file;
 };
 
-void FlushFolder(const fs::path& folder) {
-    OpenFile(folder, O_RDONLY | O_DIRECTORY).Flush();
-}
-
 void SweepDrafts(const fs::path& folder) {
     for (const std::string& name : FilesIn(folder)) {
-        if (name.starts_with(DraftPrefix) && name.ends_with(DraftSuffix)) ::unlink((folder / name).c_str());
+        if (!name.starts_with(DraftPrefix) || !name.ends_with(DraftSuffix)) continue;
+        const fs::path path = folder / name;
+        try {
+            OpenFile draft(path, O_RDONLY | O_NOFOLLOW);
+            if (draft.Lock() && draft.IsAt(path)) ::unlink(path.c_str());
+        } catch (const std::system_error&) {
+            // It has gone meanwhile, or somebody else's it stays.
+        }
     }
 }
 
 }  // namespace
 
 void ReplaceFile(const fs::path& file, std::span<const std::uint8_t> bytes) {
-    const fs::path folder = file.parent_path();
-    SweepDrafts(folder);
-    Draft draft(folder);
+    const fs::path path = file.parent_path();
+    SweepDrafts(path);
+    OpenFile folder(path, O_RDONLY | O_DIRECTORY);  // while the old file is still there
+    Draft draft(path);
     draft.Write(bytes);
     draft.TakePlaceOf(file);
-    FlushFolder(folder);
+    folder.Flush();
 }
 
 void MakeFolder(const fs::path& folder) {
-    if (fs::create_directories(folder)) FlushFolder(folder.parent_path());
+    if (fs::create_directories(folder)) OpenFile(folder.parent_path(), O_RDONLY | O_DIRECTORY).Flush();
 }
 
 std::vector<std::string> FilesIn(const fs::path& folder) {

@@ -8,8 +8,8 @@
 #include <system_error>
 #include <vector>
 
-// Replaces the file as a whole or, when it throws, leaves the old one as it was. Afterwards the bytes are on the disk, not only
-// on their way there. Throws system_error.
+// Replaces the file as a whole; afterwards the bytes are on the disk, not only on their way there. Throws system_error: the old file is
+// then as it was, but for a disk that fails at the very last step: the new one stands in its place, whole, and may be lost with the power.
 void ReplaceFile(const std::filesystem::path& file, std::span<const std::uint8_t> bytes);
 
 // Throws system_error when the folder is not there and cannot be made.

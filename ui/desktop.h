@@ -12,7 +12,7 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    // Whether a font family of exactly this name is installed.
+    // Whether text set in this font family looks and measures as it should: the family is there, or one that was made to its metrics.
     virtual bool HasFontFamily(std::string_view name) const = 0;
 
     // A message with one OK button; returns when it is acknowledged.

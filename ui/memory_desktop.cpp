@@ -15,9 +15,14 @@ void MemoryDesktop::RunEvent(const std::function<void()>& event) {
     }
 }
 
-MemoryDesktop::Refusal MemoryDesktop::WhyUnreachable(const Form& form) const {
+MemoryDesktop::Refusal MemoryDesktop::WhyGone(const Form& form) const {
     if (!running) return "the program has ended";
     if (!form.Visible) return std::string(form.Layout.Name) + " is hidden";
+    return std::nullopt;
+}
+
+MemoryDesktop::Refusal MemoryDesktop::WhyUnreachable(const Form& form) const {
+    if (auto refusal = WhyGone(form)) return refusal;
     if (modal != nullptr && modal != &form) return std::string(modal->Layout.Name) + " is modal";
     return std::nullopt;
 }
@@ -59,7 +64,7 @@ MemoryDesktop::Refusal MemoryDesktop::Focus(Form& form) {
 }
 
 MemoryDesktop::Refusal MemoryDesktop::Close(const Form& form) {
-    if (auto refusal = WhyUnreachable(form)) return refusal;
+    if (auto refusal = WhyGone(form)) return refusal;
     if (!form.CloseBox) return std::string(form.Layout.Name) + " has no close box";
     RunEvent([&] { form.CloseBox(); });
     return std::nullopt;
@@ -70,9 +75,9 @@ void MemoryDesktop::ShowMessageBox(std::string_view text, std::string_view title
 }
 
 void MemoryDesktop::ShowModal(Form& form) {
-    Form* const outer = std::exchange(modal, &form);
     Form* const behind = windows.Active;
     Show(windows, form);
+    Form* const outer = std::exchange(modal, &form);
     while (form.Visible) {
         ranDry = !NextEvent || !NextEvent();
         if (ranDry || !running) EndProcess();

@@ -32,7 +32,7 @@ public:
     Refusal PressKey(const Form& form, TextBox& box, char32_t key);
     Refusal Focus(const Form& form, const Control& control);
     Refusal Focus(Form& form);
-    Refusal Close(const Form& form);
+    Refusal Close(const Form& form);  // as on the screen, also behind a modal form
 
     // Runs what a player or the start of the program sets off, and catches what ends or interrupts it.
     void RunEvent(const std::function<void()>& event);
@@ -49,6 +49,7 @@ public:
     std::size_t CountLines(const TextBox& box) const override { return box.LineBreaks() + 1; }
 
 private:
+    Refusal WhyGone(const Form& form) const;
     Refusal WhyUnreachable(const Form& form) const;
 
     Windows& windows;

@@ -72,7 +72,7 @@ TEST(QtAccessible, LetsTheLastReplyBeRead) {
     screen.Show(screen.windows.Form1.Window);
     screen.Do([&] {
         screen.windows.Form1.Text1.SetVisible(true);
-        screen.windows.Form1.Text1.AppendText("Dveře jsou zamčené!");
+        screen.windows.Form1.Text1.SetText("Dveře jsou zamčené!");
     });
     auto& output = Accessible(screen, screen.windows.Form1.Window, &screen.windows.Form1.Text1);
     EXPECT_TRUE(output.state().readOnly);

@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMenu>
 #include <QMimeData>
 
 #include "tests/qt/screen.h"
@@ -57,7 +58,7 @@ TEST(QtInputLine, TakesComposedLettersLikeTypedOnes) {
         return key == U'x';
     };
     QInputMethodEvent composed;
-    composed.setCommitString("řxň");
+    composed.setCommitString("řxn\u030C");
     QCoreApplication::sendEvent(&screen.line, &composed);
     EXPECT_EQ(heard, U"řxň");
     EXPECT_EQ(screen.box.Text(), "řň");
@@ -71,7 +72,7 @@ TEST(QtInputLine, EditsAtTheCaretAndLeavesTheRestToTheClipboard) {
     QTest::keyClick(&screen.line, Qt::Key_E);
     EXPECT_EQ(screen.box.Text(), "mj-perolax");
     EXPECT_EQ(screen.box.Caret(), 5U);
-    QGuiApplication::clipboard()->setText("→ž\r\nb\t");
+    QGuiApplication::clipboard()->setText("→z\u030C\r\nb\t");  // a letter and its accent
     QTest::keyClick(&screen.line, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(screen.box.Text(), "mj-pe?žbrolax");
     EXPECT_EQ(screen.line.text(), QString("mj-pe?žbrolax"));
@@ -83,8 +84,10 @@ TEST(QtInputLine, EditsAtTheCaretAndLeavesTheRestToTheClipboard) {
 
 TEST(QtReadOnlyBoxes, TakeNothing) {
     Screen screen;
-    screen.windows.Form1.Text1.SetVisible(true);
-    screen.Show(screen.windows.Form1.Window);
+    screen.Do([&] {
+        screen.windows.Form1.Text1.SetText("");
+        screen.windows.Form1.Text1.SetVisible(true);
+    });
     std::vector<int> keys;
     screen.windows.Form1.Text2.KeyDown = [&](int key) { keys.push_back(key); };
     QGuiApplication::clipboard()->setText("vloženo");
@@ -100,6 +103,29 @@ TEST(QtReadOnlyBoxes, TakeNothing) {
     EXPECT_TRUE(screen.Widget<qt::InputLine>(screen.windows.Form1.Window, &screen.windows.Form1.Text2).text().isEmpty());
     QTest::keyClick(screen.Widget(screen.windows.Form1.Window).WidgetOf(&screen.windows.Form1.Text2), Qt::Key_Enter);
     EXPECT_EQ(keys.back(), 13);
+}
+
+TEST(QtBoxes, HaveACzechMenu) {
+    Terminal screen;
+    const auto menu = [](QWidget& widget) {
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, {5, 5}, widget.mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(&widget, &asked);
+        QStringList entries;
+        for (QAction* action : QApplication::activePopupWidget()->actions()) {
+            entries += action->text() + (action->isEnabled() ? "" : " -");
+            if (action->text() == "Vyjmout" && action->isEnabled()) action->trigger();
+        }
+        QApplication::activePopupWidget()->close();
+        return entries.join(", ").toStdString();
+    };
+    EXPECT_EQ(menu(screen.line), "Vyjmout -, Kopírovat -, Vložit, Vybrat vše -");
+    QTest::keyClicks(&screen.line, "exit");
+    screen.line.selectAll();
+    EXPECT_EQ(menu(screen.line), "Vyjmout, Kopírovat, Vložit, Vybrat vše");
+    EXPECT_EQ(screen.box.Text(), "");
+    EXPECT_EQ(menu(screen.Widget<qt::InputLine>(screen.windows.Form1.Window, &screen.windows.Form1.Text2)), "Kopírovat -, Vybrat vše -");
+    auto& output = screen.Widget<qt::OutputView>(screen.windows.Form1.Window, &screen.windows.Form1.Text1);
+    EXPECT_EQ(menu(*output.viewport()), "Kopírovat -, Vybrat vše");
 }
 
 TEST(QtLists, SelectUnderTheMouseAndUnderTheCursorKeys) {

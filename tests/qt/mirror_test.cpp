@@ -3,9 +3,11 @@
 
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QWindow>
 #include <cmath>
 
 #include "tests/qt/screen.h"
+#include "ui/qt/application.h"
 #include "ui/qt/look.h"
 
 using namespace ui;
@@ -60,6 +62,8 @@ TEST(QtWindows, HaveTheirLayoutToThePixel) {
         for (const Control& control : form->Controls) {
             const Rect& bounds = LayoutOf(control).Bounds;
             EXPECT_EQ(widget.WidgetOf(control)->geometry(), QRect(bounds.Left / 15, bounds.Top / 15, bounds.Width / 15, bounds.Height / 15))
+                << form->Layout.Name << '.' << LayoutOf(control).Name;
+            EXPECT_EQ(widget.WidgetOf(control)->font(), qt::ToQt(LayoutOf(control).Font))
                 << form->Layout.Name << '.' << LayoutOf(control).Name;
         }
     }
@@ -121,24 +125,24 @@ TEST(QtWindows, ShowTheirPictureOrTheirPlainColour) {
     }
 }
 
-TEST(QtWindows, BearTheirIcon) {
-    const QTemporaryDir folder;
-    QImage drawn(32, 32, QImage::Format_RGB32);
-    drawn.fill(Qt::darkGreen);
-    drawn.save(folder.filePath("icon"), "PNG");
+TEST(QtWindows, AreDressedForTheGame) {
     Screen screen;
-    Form& form = screen.windows.Form4.Window;
-    form.Icon = folder.filePath("icon").toStdString();
-    screen.Show(form);
-    EXPECT_EQ(screen.Widget(form).windowIcon().pixmap(32).toImage().pixelColor(16, 16), QColor(Qt::darkGreen));
+    for (Form* form : screen.windows.All) {
+        screen.Show(*form);
+        auto& widget = screen.Widget(*form);
+        const bool backdrop = form->Layout.Backdrop;
+        EXPECT_EQ(widget.windowFlags().testFlag(Qt::WindowStaysOnTopHint), !backdrop) << form->Layout.Name;
+        EXPECT_EQ(widget.windowFlags().testFlag(Qt::WindowStaysOnBottomHint), backdrop) << form->Layout.Name;
+        EXPECT_EQ(widget.windowIcon().isNull(), backdrop) << form->Layout.Name;
+        EXPECT_EQ(ColourAt(screen.Picture(*form), {5, 5}) == qt::ToQt(form->Layout.Background), backdrop) << form->Layout.Name;
+        EXPECT_EQ(widget.windowHandle()->transientParent() != nullptr, !backdrop && !form->Layout.Framed) << form->Layout.Name;
+    }
 }
 
 TEST(QtWindows, CutTheBottomCornersOfTheMainWindowOnly) {
     Screen screen;
-    Form& form = screen.windows.Form1.Window;
-    form.Region = RoundRegion{3, 3, 668, 585, 4};
-    screen.Show(form);
-    const QRegion mask = screen.Widget(form).mask();
+    const QRegion mask = screen.Widget(screen.windows.Form1.Window).mask();
+    EXPECT_TRUE(screen.Widget(screen.windows.Form5.Window).mask().isEmpty());
     EXPECT_EQ(mask.boundingRect(), QRect(0, 0, 665, 562));
     EXPECT_TRUE(mask.contains(QPoint(0, 0)));
     EXPECT_FALSE(mask.contains(QPoint(0, 561)));
@@ -218,13 +222,52 @@ TEST(QtCaret, IsOneBySevenPixelsInAllFourInputBoxes) {
     }
 }
 
-TEST(QtFonts, AreAskedForByTheirExactName) {
-    const Screen screen;
-    EXPECT_FALSE(screen.desktop.HasFontFamily("No Such Family"));
-    const QString family = QFontInfo(qt::ToQt(ui::Font{})).family();
-    EXPECT_TRUE(screen.desktop.HasFontFamily(qt::FromQt(family)));
-    EXPECT_FALSE(screen.desktop.HasFontFamily(qt::FromQt(family.toUpper())));
-    EXPECT_FALSE(screen.desktop.HasFontFamily(qt::FromQt(family.section(' ', 0, 0) + ' ')));
+TEST(QtLists, ShowWhatIsSelectedAndWhereTheFocusIs) {
+    Screen screen;
+    ListBox& list = screen.windows.Form4.List1;
+    for (const char* entry : {"první", "druhá"}) list.Append(entry);
+    list.Select(1);
+    screen.Show(screen.windows.Form4.Window);
+    auto& widget = screen.Widget<qt::EntryList>(screen.windows.Form4.Window, &list);
+    const auto pixels = [&](int row, const QColor& colour) {
+        const QImage picture = widget.viewport()->grab().toImage();
+        const QRect area = Scaled(widget.RowRect(row), picture);
+        int found = 0;
+        for (int x = area.left(); x <= area.right(); ++x) found += picture.pixelColor(x, area.top()) == colour;
+        return found * 10 / area.width();  // tenths of its upper edge
+    };
+    EXPECT_EQ(pixels(0, Qt::black), 10);
+    EXPECT_THAT(pixels(1, qt::ToQt(Teal)), ::testing::AllOf(::testing::Gt(0), ::testing::Lt(10)));  // dotted
+    screen.Do([&] { GiveFocus(screen.windows, screen.windows.Form4.Text1); });
+    EXPECT_EQ(pixels(1, qt::ToQt(Teal)), 10);
+}
+
+TEST(QtFonts, CountAsThereWhenTextIsMadeLikeTheirs) {
+    const bool there = !qEnvironmentVariableIsSet("FONTCONFIG_FILE");
+    EXPECT_EQ(qt::HasFontFamily("Arial"), there);
+    EXPECT_FALSE(qt::HasFontFamily("No Such Family"));
+    EXPECT_FALSE(qt::HasFontFamily("Helvetica"));
+    const QFont large = qt::ToQt(ui::Font{.Points = 1536});
+    EXPECT_TRUE(!there || QFontMetrics(large).horizontalAdvance("Wiač") == 1933 + 455 + 1139 + 1024);  // the widths of Arial
     EXPECT_EQ(qt::ToQt(ui::Font{.Points = 9.75}).pixelSize(), 13);
     EXPECT_EQ(qt::ToQt(ui::Font{.Points = 8.25}).pixelSize(), 11);
+    EXPECT_TRUE(qt::ToQt(ui::Font{.Bold = true}).bold());
+    EXPECT_TRUE(qt::ToQt(ui::Font{.Italic = true}).italic());
+}
+
+TEST(QtScreen, IsMissedInCzech) {
+    const QTemporaryDir folder;
+    const auto why = [](const char* variable, const QByteArray& value) {
+        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+        qunsetenv("QT_QPA_PLATFORM");
+        qputenv("DISPLAY", ":no such display");
+        qputenv(variable, value);
+        const auto reason = qt::WhyNoScreen();
+        qputenv("QT_QPA_PLATFORM", platform);
+        return reason.value_or("");
+    };
+    EXPECT_EQ(qt::WhyNoScreen(), std::nullopt);
+    EXPECT_THAT(why("XDG_RUNTIME_DIR", folder.path().toUtf8()), ::testing::HasSubstr("žádný displej"));
+    QFile(folder.filePath("wayland-7")).open(QIODevice::WriteOnly);
+    EXPECT_THAT(why("WAYLAND_DISPLAY", "wayland-7"), ::testing::Not(::testing::HasSubstr("žádný displej")));
 }

@@ -1,8 +1,7 @@
 // Panels that block, the end of the program from wherever it happens, and errors that the player is told.
 #include <gmock/gmock.h>
 
-#include <QMessageBox>
-#include <QTimer>
+#include <QAccessible>
 
 #include "tests/qt/screen.h"
 
@@ -10,14 +9,8 @@ using namespace ui;
 
 namespace {
 
-// Runs while an inner event loop waits.
-void Later(const std::function<void()>& event) {
-    QTimer::singleShot(0, qApp, event);
-}
-
 struct Opened : Screen {
     Opened() {
-        Show(windows.Form1.Window);
         windows.Form1.Label1.Click = [this] {
             desktop.ShowModal(windows.Form3.Window);
             cameBack = true;
@@ -89,8 +82,13 @@ TEST(QtErrors, AreToldInAMessageBoxAndTheGameGoesOn) {
     screen.Show(screen.windows.Form1.Window);
     bool told = false;
     Later([&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        auto* box = OpenMessageBox();
         ASSERT_NE(box, nullptr);
+        screen.windows.Form1.List2[0].Click = [] { FAIL() << "the message shuts the entrance"; };
+        auto& verbs = screen.Widget<qt::EntryList>(screen.windows.Form1.Window, &screen.windows.Form1.List2[0]);
+        QAccessible::queryAccessibleInterface(&verbs)->child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        screen.Do([] { FAIL() << "the message shuts the entrance"; });
+        EXPECT_TRUE(box->isActiveWindow() && box->isEnabled());
         told = box->windowTitle() == "Chyba" && box->text() == "Disk je plný.";
         EXPECT_EQ(screen.windows.Form1.Text2.Text(), "hotovo");
         box->accept();
@@ -102,6 +100,29 @@ TEST(QtErrors, AreToldInAMessageBoxAndTheGameGoesOn) {
     EXPECT_TRUE(told);
     screen.Do([&] { screen.windows.Form1.Text2.SetText("dál"); });
     EXPECT_EQ(screen.Widget<qt::InputLine>(screen.windows.Form1.Window, &screen.windows.Form1.Text2).text(), QString("dál"));
+}
+
+TEST(QtErrors, LetTheCloseBoxEndTheGameBehindThem) {
+    Opened screen;
+    Later([&] {
+        Later([&] {
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);  // a click on the close box would not come through
+            screen.Widget(screen.windows.Form1.Window).close();
+        });
+        screen.Do([] { throw std::bad_alloc(); });
+    });
+    screen.OpenPanel();
+    EXPECT_TRUE(screen.desktop.Ended());
+    EXPECT_EQ(OpenMessageBox(), nullptr);
+    EXPECT_FALSE(screen.cameBack);
+}
+
+TEST(QtErrors, LeaveNoWindowShutWhenAPanelDoesNotOpen) {
+    Opened screen;
+    screen.windows.Form3.Window.GotFocus = [] { throw GameError("Disk je plný."); };
+    Later([] { OpenMessageBox()->accept(); });
+    screen.OpenPanel();
+    EXPECT_TRUE(screen.Widget(screen.windows.Form1.Window).isEnabled());
 }
 
 TEST(QtPointer, IsAnHourglassWhileTheGameIsBusy) {

@@ -13,7 +13,7 @@ using namespace ui;
 namespace {
 
 struct Output : Screen {
-    Output() { Show(windows.Form1.Window); }
+    Output() { box.SetText(""); }
     void Reveal() {
         Do([this] { box.SetVisible(true); });
     }

@@ -1,4 +1,5 @@
 // Whatever happens to the program, the disk or the folder while a game is saved: the old game or the new one is there, whole.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <poll.h>
 #include <sys/resource.h>
@@ -54,7 +55,7 @@ private:
 };
 
 // Saves two games of different lengths under one name, in turns and for ever.
-[[noreturn]] void SaveWithoutEnd(SavedGames& play, int started) {
+[[noreturn]] void SaveWithoutEnd(SavedGames& play, int started) noexcept {
     for (;;) {
         for (const std::size_t items : {0u, 3000u}) {
             play.game.state.Sectors[4].Items.assign(items, 15);
@@ -98,6 +99,23 @@ TEST(Durability, KeepsAWholeGameThroughAKillAtAnyMoment) {
 
     EXPECT_EQ(play.Save("hra"), "");
     EXPECT_EQ(std::distance(fs::directory_iterator(play.Folder()), {}), 1);
+}
+
+TEST(Durability, LetsTwoGamesSaveIntoOneFolder) {
+    SavedGames play;
+    // What a game left behind that had this number, and one whose number another program has now.
+    for (const pid_t number : {::getpid(), 1}) play.Put(".saving-" + std::to_string(number) + "-0.tmp", {1});
+    const pid_t other = ::fork();
+    if (other == 0) SaveWithoutEnd(play, ::open("/dev/null", O_WRONLY));
+    int failed = 0;
+    for (int save = 0; save < 300; ++save) failed += !play.Save("jiná").empty();
+    ::kill(other, SIGKILL);
+    int how = 0;
+    ::waitpid(other, &how, 0);
+    EXPECT_EQ(failed, 0);
+    EXPECT_EQ(WTERMSIG(how), SIGKILL) << "the other game could not save";
+    EXPECT_EQ(play.Save("jiná"), "");
+    EXPECT_EQ(std::distance(fs::directory_iterator(play.Folder()), {}), 2);
 }
 
 // Saves while something is in the way; afterwards the old game must be there and nothing else, and a second try must succeed.

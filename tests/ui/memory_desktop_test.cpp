@@ -34,7 +34,6 @@ TEST(ModalPanel, KeepsTheOtherWindowsFromInput) {
                 Optional(std::string("Form2 is hidden")));
     play.Desktop().NextEvent = [&] {
         EXPECT_THAT(play.Desktop().ClickEntry(form.Window, form.List2[0], 0), Optional(std::string("Form2 is modal")));
-        EXPECT_THAT(play.Desktop().Close(form.Window), Optional(std::string("Form2 is modal")));
         play.Type(play.Windows().Form2.Window, play.Windows().Form2.Text2, "EXIT\r");
         return true;
     };
@@ -55,10 +54,10 @@ TEST(ModalPanel, EndsTheProgramWhereTheScriptRunsDry) {
     EXPECT_THAT(play.Desktop().ClickLabel(play.Form1().Window, play.Form1().Label1), Optional(std::string("the program has ended")));
 }
 
-TEST(ModalPanel, EndsTheProgramAtOnceWhenTheGameIsUnloadedInside) {
+TEST(ModalPanel, EndsTheProgramAtOnceWhenTheMainWindowIsClosedBehindIt) {
     Play play = Play::InCabin();
     play.Desktop().NextEvent = [&] {
-        play.Desktop().RunEvent(play.Form1().Window.CloseBox);
+        EXPECT_EQ(play.Desktop().Close(play.Form1().Window), std::nullopt);
         return true;
     };
     play.Use(Item::CabinTerminal, Item::Self);

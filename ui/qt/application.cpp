@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <QDir>
+#include <QFont>
 #include <QLibraryInfo>
 #include <QProxyStyle>
 
@@ -65,6 +66,8 @@ Application::Application(int& argumentCount, char** arguments) : application(arg
     QApplication::setApplicationName("orvel-tavoren");
     QGuiApplication::setDesktopFileName("orvel-tavoren");
     QApplication::setQuitOnLastWindowClosed(false);
+    // These run exactly as wide, so that lines break where they would in Arial.
+    QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo"});
     InstallAccessibility();
 }
 

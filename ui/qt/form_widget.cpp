@@ -107,7 +107,7 @@ void FormWidget::mousePressEvent(QMouseEvent*) {
 
 void FormWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (form.CloseBox) entrance.Enter([this] { form.CloseBox(); });
+    if (form.CloseBox) entrance.Close([this] { form.CloseBox(); });
 }
 
 void FormWidget::keyPressEvent(QKeyEvent* event) {

@@ -62,10 +62,10 @@ bool InputLine::Announce(char32_t character) {
 }
 
 void InputLine::Report() {
-    const std::string content = FromQt(text());
-    const std::size_t caret = FromQt(text().left(cursorPosition())).size();
-    if (content == box.Text() && caret == box.Caret()) return;
-    entrance.Enter([&] { box.EditText(content, caret); });
+    const std::string before = FromQt(text().left(cursorPosition()));
+    const std::string content = before + FromQt(text().mid(cursorPosition()));
+    if (content == box.Text() && before.size() == box.Caret()) return;
+    entrance.Enter([&] { box.EditText(content, before.size()); });
 }
 
 void InputLine::keyPressEvent(QKeyEvent* event) {
@@ -78,7 +78,7 @@ void InputLine::keyPressEvent(QKeyEvent* event) {
 
 void InputLine::inputMethodEvent(QInputMethodEvent* event) {
     QString kept;
-    for (const char32_t character : event->commitString().toUcs4()) {
+    for (const char32_t character : event->commitString().normalized(QString::NormalizationForm_C).toUcs4()) {
         if (!Announce(character)) kept += QString::fromUcs4(&character, 1);
     }
     QInputMethodEvent passed(event->preeditString(), event->attributes());

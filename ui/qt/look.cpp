@@ -1,31 +1,15 @@
 #include "ui/qt/look.h"
 
-#include <QFontDatabase>
+#include <QFontInfo>
 #include <QStringList>
-#include <algorithm>
 
 namespace ui::qt {
 
-namespace {
-
-// Arial, or a face that runs exactly as wide, so that lines break where they would in Arial.
-const QString& TextFamily() {
-    static const QString family = [] {
-        for (const char* name : {"Arial", "Liberation Sans", "Arimo"}) {
-            if (HasFontFamily(name)) return QString(name);
-        }
-        return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
-    }();
-    return family;
-}
-
-}  // namespace
-
 bool HasFontFamily(std::string_view name) {
-    // Asking for the one family would answer for its substitute as well.
-    static const QStringList families = QFontDatabase::families();
-    // A family that several foundries offer is listed as "Family [Foundry]".
-    return std::ranges::any_of(families, [wanted = ToQt(name)](const QString& family) { return family.section(" [", 0, 0) == wanted; });
+    const QString wanted = ToQt(name);
+    // A family that several foundries offer is called "Family [Foundry]".
+    const QString given = QFontInfo(QFont(wanted)).family().section(" [", 0, 0);
+    return given == wanted || QFont::substitutes(wanted).contains(given, Qt::CaseInsensitive);
 }
 
 QRect Pixels(const Rect& twips) {
@@ -37,7 +21,7 @@ QColor ToQt(Colour colour) {
 }
 
 QFont ToQt(const Font& font) {
-    QFont result(TextFamily());
+    QFont result("Arial");
     result.setPixelSize(static_cast<int>(font.Points * 96 / 72));
     result.setBold(font.Bold);
     result.setItalic(font.Italic);
@@ -62,7 +46,7 @@ QString ToQt(std::string_view utf8) {
 }
 
 std::string FromQt(const QString& text) {
-    return text.toStdString();
+    return text.normalized(QString::NormalizationForm_C).toStdString();
 }
 
 }  // namespace ui::qt

@@ -16,7 +16,7 @@ namespace ui::qt {
 constexpr int RowHeight = 16;  // of every list
 constexpr QColor BorderColour(0, 96, 96);
 
-// Whether a font family of exactly this name is installed.
+// Whether text set in this family looks and measures as it should: as in the family itself or in one that the Application put in its place.
 bool HasFontFamily(std::string_view name);
 
 QRect Pixels(const Rect& twips);
@@ -27,6 +27,7 @@ QFont ToQt(const Font& font);
 QPalette PaletteOf(const ControlLayout& layout);
 
 QString ToQt(std::string_view utf8);
+// Composes letters that come as a letter and its accents; Windows-1250 has only whole ones.
 std::string FromQt(const QString& text);
 
 }  // namespace ui::qt

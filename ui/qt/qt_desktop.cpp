@@ -1,8 +1,8 @@
 #include "ui/qt/qt_desktop.h"
 
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "ui/errors.h"
@@ -25,6 +25,14 @@ QtDesktop::~QtDesktop() {
 }
 
 void QtDesktop::Enter(const std::function<void()>& event) {
+    if (openBox == nullptr) return Handle(event);
+    if (ended) return;
+    // The player turned to a window behind the message.
+    openBox->raise();
+    openBox->activateWindow();
+}
+
+void QtDesktop::Handle(const std::function<void()>& event) {
     if (ended || mirroring) return;
     std::string complaint;
     try {
@@ -35,10 +43,12 @@ void QtDesktop::Enter(const std::function<void()>& event) {
         return;
     } catch (const GameError& error) {
         complaint = error.what();
+    } catch (const std::exception& error) {
+        complaint = std::string("Neočekávaná chyba programu: ").append(error.what());
     }
+    if (!complaint.empty()) return Handle([&] { ShowMessageBox(complaint, "Chyba"); });
     Mirror();
     if (modal != nullptr && !modal->Visible) loops.back()->quit();
-    if (!complaint.empty()) ShowMessageBox(complaint, "Chyba");
 }
 
 void QtDesktop::Run() {
@@ -55,9 +65,9 @@ void QtDesktop::RunLoop() {
 }
 
 void QtDesktop::ShowModal(Form& form) {
-    Form* const outer = std::exchange(modal, &form);
     Form* const behind = windows.Active;
-    Show(windows, form);
+    Show(windows, form);  // before it is modal: should it throw, nothing shuts the other windows
+    Form* const outer = std::exchange(modal, &form);
     Mirror();
     if (form.Visible) RunLoop();
     modal = outer;
@@ -66,11 +76,18 @@ void QtDesktop::ShowModal(Form& form) {
 }
 
 void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
-    Mirror();
     QWidget* const owner = windows.Active != nullptr ? &WidgetOf(*windows.Active) : nullptr;
-    QMessageBox box(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, owner);
-    box.setWindowFlag(Qt::WindowStaysOnTopHint);
-    box.exec();
+    QMessageBox message(QMessageBox::NoIcon, ToQt(title), ToQt(text), QMessageBox::Ok, owner);
+    message.setWindowFlag(Qt::WindowStaysOnTopHint);
+    QObject::connect(&message, &QDialog::finished, [this] { loops.back()->quit(); });
+    openBox = &message;
+    Mirror();
+    message.setEnabled(true);  // which its owner is not
+    message.setModal(false);   // for Qt, which would let no close box work behind it
+    message.show();
+    RunLoop();
+    openBox = nullptr;
+    if (ended) EndProcess();
 }
 
 std::size_t QtDesktop::CountLines(const TextBox& box) const {
@@ -104,7 +121,8 @@ void QtDesktop::Mirror() {
         if (!forms[place] && !form.Visible) continue;
         if (form.Layout.Backdrop && !CanStackWindows()) continue;
         const bool panel = !form.Layout.Framed && !form.Layout.Backdrop;
-        WidgetOf(form).Mirror(modal == nullptr || modal == &form, panel ? &WidgetOf(windows.Form1.Window) : nullptr);
+        WidgetOf(form).Mirror(openBox == nullptr && (modal == nullptr || modal == &form),
+                              panel ? &WidgetOf(windows.Form1.Window) : nullptr);
     }
     MirrorPointer();
     if (windows.Active != nullptr && windows.Active->Visible) WidgetOf(*windows.Active).MirrorFocus();
