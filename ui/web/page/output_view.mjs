@@ -13,6 +13,7 @@ export class OutputView {
     #text = newElement("div", "text");
     #probe = newElement("div", "probe");
     #line = null;
+    #news = "";
 
     constructor(layout, place, page) {
         this.element = newElement("div", "output");
@@ -29,11 +30,13 @@ export class OutputView {
     }
 
     clear() {
+        this.#news = "";
         this.#text.replaceChildren(newElement("div", "chunk"));
         this.#startLine();
     }
 
     append(text) {
+        this.#news += text;
         const [first, ...others] = text.split("\r\n");
         this.#line.append(first);
         for (const line of others) {
@@ -46,6 +49,12 @@ export class OutputView {
         if (this.#text.lastChild.childElementCount === LinesInChunk) this.#text.append(newElement("div", "chunk"));
         this.#line = newElement("p", "");
         this.#text.lastChild.append(this.#line);
+    }
+
+    takeNews() {
+        const news = this.element.classList.contains("invisible") ? "" : this.#news;
+        if (news !== "") this.#news = "";
+        return news;
     }
 
     show(visible, atEnd) {
