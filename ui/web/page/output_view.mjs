@@ -14,6 +14,7 @@ export class OutputView {
     #probe = newElement("div", "probe");
     #line = null;
     #news = "";
+    #atEnd = false;
 
     constructor(layout, place, page) {
         this.element = newElement("div", "output");
@@ -26,6 +27,12 @@ export class OutputView {
         this.element.append(this.#text, this.#probe);
         this.element.addEventListener("focusin", () => page.events.post(EventKind.Focus, place));
         this.element.addEventListener("click", () => page.takeFocus());
+        // An on-screen keyboard must not cover the last words.
+        this.element.addEventListener("scroll", () => {
+            const { scrollTop, clientHeight, scrollHeight } = this.element;
+            this.#atEnd = scrollTop + clientHeight >= scrollHeight - 2;
+        });
+        new ResizeObserver(() => this.#follow()).observe(this.element);
         this.clear();
     }
 
@@ -59,7 +66,12 @@ export class OutputView {
 
     show(visible, atEnd) {
         this.element.classList.toggle("invisible", !visible);
-        if (atEnd) this.element.scrollTop = this.element.scrollHeight;
+        this.#atEnd = atEnd;
+        this.#follow();
+    }
+
+    #follow() {
+        if (this.#atEnd) this.element.scrollTop = this.element.scrollHeight;
     }
 
     // All lines are equally high.
