@@ -15,7 +15,7 @@ struct Place {
 };
 
 // The numbers are known to page/event_queue.mjs.
-enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge };
+enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge, FilesChanged };
 
 struct Event {
     EventKind Kind;

@@ -1,6 +1,8 @@
 // Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
+import { EventKind } from "./event_queue.mjs";
 import { fetchBytes, fetchProgram } from "./files.mjs";
 import { Page } from "./page.mjs";
+import { SavedGames } from "./saved_games.mjs";
 import { loadTextFace } from "./text_face.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
@@ -23,6 +25,8 @@ async function start() {
     });
     engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
+    const savedGames = new SavedGames(engine.FS, `${ProgramFolder}/data/saves`);
+    savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
     note("");
     engine.callMain([]);
 }
