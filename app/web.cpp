@@ -1,9 +1,22 @@
 // The game in a browser.
 #include "app/start_up.h"
+#include "saves/save_format.h"
+#include "saves/save_inspection.h"
 #include "saves/system_panel.h"
 #include "ui/errors.h"
 #include "ui/web/page.h"
 #include "ui/web/web_desktop.h"
+
+// Judges the file that the page has put there. It may ask at any time, also while the program sleeps; so this must not wait.
+extern "C" void InspectIncoming() {
+    Inspection inspection{.Found = Inspection::Finding::Damaged, .Name = ""};
+    try {
+        inspection = InspectSave(ReadWholeFile("/incoming", "", MostSaveBytes + 1));
+    } catch (const ui::GameError&) {
+        // What cannot be read is as good as damaged.
+    }
+    ui::web::page::AnswerInspection(static_cast<int>(inspection.Found), inspection.Name);
+}
 
 int main() {
     ui::Windows windows;

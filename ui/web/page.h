@@ -51,6 +51,9 @@ std::size_t CountOutputLines(Place place);
 // Whether the text looks and runs as Arial does.
 bool HasArial();
 
+// The answer to a question about a file: a number that page/incoming_files.mjs knows, and a name.
+void AnswerInspection(int finding, std::string_view name);
+
 // The browser's own random numbers in [0, 1).
 double Random();
 

@@ -18,6 +18,7 @@ export class Page {
         this.#messageBox = new MessageBox(this.events);
         this.focused = null;  // the control that has the focus in the program
         this.keySwallowed = false;
+        this.inspection = null;  // the program's answer about a file
         stage.append(this.#messageBox.element);
         listenToKeys(this, this.#messageBox);
     }

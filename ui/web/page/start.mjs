@@ -2,6 +2,7 @@
 import { EventKind } from "./event_queue.mjs";
 import { fetchBytes, fetchProgram } from "./files.mjs";
 import { Page } from "./page.mjs";
+import { PageMenu } from "./page_menu.mjs";
 import { SavedGames } from "./saved_games.mjs";
 import { loadTextFace } from "./text_face.mjs";
 
@@ -27,6 +28,7 @@ async function start() {
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
     const savedGames = new SavedGames(engine.FS, `${ProgramFolder}/data/saves`);
     savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
+    new PageMenu(engine, savedGames);
     note("");
     engine.callMain([]);
 }
