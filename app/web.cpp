@@ -1,5 +1,6 @@
 // The game in a browser.
 #include "app/start_up.h"
+#include "saves/save_files.h"
 #include "saves/save_format.h"
 #include "saves/save_inspection.h"
 #include "saves/system_panel.h"
@@ -7,8 +8,11 @@
 #include "ui/web/page.h"
 #include "ui/web/web_desktop.h"
 
-// Judges the file that the page has put there. It may ask at any time, also while the program sleeps; so this must not wait.
-extern "C" void InspectIncoming() {
+// The page may ask these at any time, also while the program sleeps; so they must not wait.
+extern "C" {
+
+// Judges the file that the page has put there.
+void InspectIncoming() {
     Inspection inspection{.Found = Inspection::Finding::Damaged, .Name = ""};
     try {
         inspection = InspectSave(ReadWholeFile("/incoming", "", MostSaveBytes + 1));
@@ -16,6 +20,11 @@ extern "C" void InspectIncoming() {
         // What cannot be read is as good as damaged.
     }
     ui::web::page::AnswerInspection(static_cast<int>(inspection.Found), inspection.Name);
+}
+
+bool WouldLoseSteps(const Game* game) {
+    return HasUnsavedSteps(*game);
+}
 }
 
 int main() {
@@ -30,5 +39,6 @@ int main() {
         desktop.ShowMessageBox(error.what(), "Chyba");
         return 1;
     }
+    ui::web::page::OfferGame(&game);
     desktop.Run();
 }

@@ -51,6 +51,8 @@ std::size_t CountOutputLines(Place place);
 // Whether the text looks and runs as Arial does.
 bool HasArial();
 
+// Lets the page ask the exported functions about the running game until SayTheEnd. It hands the address back to them and knows no more.
+void OfferGame(const void* game);
 // The answer to a question about a file: a number that page/incoming_files.mjs knows, and a name.
 void AnswerInspection(int finding, std::string_view name);
 

@@ -18,6 +18,7 @@ export class Page {
         this.#messageBox = new MessageBox(this.events);
         this.focused = null;  // the control that has the focus in the program
         this.keySwallowed = false;
+        this.game = 0;  // its address in the program, for the program's answers; 0 when none is running
         this.inspection = null;  // the program's answer about a file
         stage.append(this.#messageBox.element);
         listenToKeys(this, this.#messageBox);
@@ -91,6 +92,7 @@ export class Page {
     }
 
     sayTheEnd() {
+        this.game = 0;
         sayTheEnd();
     }
 }

@@ -5,6 +5,7 @@ import { Page } from "./page.mjs";
 import { PageMenu } from "./page_menu.mjs";
 import { SavedGames } from "./saved_games.mjs";
 import { loadTextFace } from "./text_face.mjs";
+import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
@@ -29,6 +30,7 @@ async function start() {
     const savedGames = new SavedGames(engine.FS, `${ProgramFolder}/data/saves`);
     savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
     new PageMenu(engine, savedGames);
+    askBeforeLeaving(engine, savedGames);
     note("");
     engine.callMain([]);
 }
