@@ -1,9 +1,11 @@
 // The page as the program sees it: page.cpp calls these functions, and takes its events here.
 import { EventQueue } from "./event_queue.mjs";
 import { sayTheEnd } from "./ending.mjs";
+import { addressOf } from "./files.mjs";
 import { FormWidget } from "./form_widget.mjs";
 import { listenToKeys } from "./keyboard.mjs";
 import { MessageBox } from "./message_box.mjs";
+import { Trouble, showTrouble } from "./trouble.mjs";
 
 export class Page {
     #stage;
@@ -91,5 +93,9 @@ export class Page {
 
     sayTheEnd() {
         sayTheEnd();
+    }
+
+    sayTheStoryIsDamaged() {
+        showTrouble(new Trouble("damaged", { file: "texs.dat", address: addressOf("texs.dat") }));
     }
 }

@@ -1,33 +1,39 @@
 // Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
-import { fetchBytes, fetchProgram } from "./files.mjs";
+import { addressOf, fetchBytes, fetchProgram, keepForOffline } from "./files.mjs";
 import { Page } from "./page.mjs";
 import { loadTextFace } from "./text_face.mjs";
+import { Trouble, showTrouble, watchProgram } from "./trouble.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
-function note(text) {
-    document.getElementById("notice").textContent = text;
+function importEngine() {
+    return import("./engine.mjs").catch((cause) => {
+        const reason = cause instanceof SyntaxError ? "damaged" : "missing";
+        throw new Trouble(reason, { file: "engine.mjs", address: addressOf("engine.mjs"), cause });
+    });
 }
 
 async function start() {
+    if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
+    if (document.styleSheets.length === 0) throw new Trouble("missing", { file: "style.css" });
     const [{ default: createEngine }, program, story, hasArial] =
-        await Promise.all([import("./engine.mjs"), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
+        await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
     const page = new Page(document.getElementById("stage"), hasArial);
     const engine = await createEngine({
         page,
         noInitialRun: true,
         instantiateWasm(imports, done) {
-            WebAssembly.instantiate(program, imports).then((instance) => done(instance, program));
+            WebAssembly.instantiate(program, imports).then((instance) => done(instance, program), showTrouble);
             return {};
         },
     });
     engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
-    note("");
+    document.getElementById("notice").textContent = "";
+    watchProgram();
     engine.callMain([]);
+    keepForOffline();
 }
 
-start().catch((error) => {
-    console.error(error);
-    note("Hru se nepodařilo načíst. Zkuste prosím stránku otevřít znovu.");
-});
+dispatchEvent(new Event("starting"));
+start().catch(showTrouble);
