@@ -6,7 +6,7 @@ export function addressOf(name) {
 }
 
 function trouble(reason, file, cause) {
-    return new Trouble(reason, { file, address: addressOf(file), cause });
+    return new Trouble(reason, { address: addressOf(file), cause });
 }
 
 async function fetchFile(name) {

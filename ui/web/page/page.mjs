@@ -96,6 +96,6 @@ export class Page {
     }
 
     sayTheStoryIsDamaged() {
-        showTrouble(new Trouble("damaged", { file: "texs.dat", address: addressOf("texs.dat") }));
+        showTrouble(new Trouble("damaged", { address: addressOf("texs.dat") }));
     }
 }

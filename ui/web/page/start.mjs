@@ -9,13 +9,17 @@ const ProgramFolder = "/orvel-tavoren";
 function importEngine() {
     return import("./engine.mjs").catch((cause) => {
         const reason = cause instanceof SyntaxError ? "damaged" : "missing";
-        throw new Trouble(reason, { file: "engine.mjs", address: addressOf("engine.mjs"), cause });
+        throw new Trouble(reason, { address: addressOf("./engine.mjs"), cause });
     });
+}
+
+function hasStyle() {
+    return getComputedStyle(document.documentElement).getPropertyValue("--border") !== "";
 }
 
 async function start() {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
-    if (document.styleSheets.length === 0) throw new Trouble("missing", { file: "style.css" });
+    if (!hasStyle()) throw new Trouble("missing", { address: addressOf("style.css") });
     const [{ default: createEngine }, program, story, hasArial] =
         await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
     const page = new Page(document.getElementById("stage"), hasArial);

@@ -3,12 +3,12 @@
     var started = false;
 
     // The reasons are those that index.html has a sentence for.
-    function show(reason, address, file) {
+    function show(reason, address) {
         var sentences = document.querySelectorAll("#trouble > p[id]");
         var names = document.querySelectorAll("#trouble .file");
         var again = document.getElementById("try-again");
         for (var i = 0; i < sentences.length; ++i) sentences[i].hidden = sentences[i].id !== "trouble-" + reason;
-        for (var j = 0; j < names.length; ++j) names[j].textContent = file;
+        for (var j = 0; j < names.length; ++j) names[j].textContent = (address || "").split("/").pop();
         again.hidden = reason === "old" || reason === "folder";
         again.onclick = function () {
             function reload() { location.reload(); }
@@ -27,7 +27,7 @@
     }
 
     window.addEventListener("starting", function () { started = true; });
-    window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address, event.detail.file); });
+    window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
     // By then the scripts that could be loaded have run.
     window.addEventListener("load", function () {
         if (isOld()) show("old");
