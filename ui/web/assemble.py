@@ -64,11 +64,11 @@ def texts_of(parts, suffix):
 
 def with_addresses(page, parts, version):
     """The page with the addresses of a version, and with all that it needs to start asked for at once."""
-    for name in ("style.css", "watch.js", "start.mjs"):
-        page = replace_once(page, f'"{name}"', f'"{version}/{served_name(name)}"')
+    for name in ("style.css", "watch.js", "start.mjs", "pics/gui1.webp"):
+        page = page.replace(f'"{name}"', f'"{version}/{served_name(name)}"')
     early = [name for name in static_imports(texts_of(parts, ".mjs"), "start.mjs", []) if name != "start.mjs"] + ["engine.mjs"]
-    links = [f'<link rel="modulepreload" href="{version}/{served_name(name)}">' for name in early]
-    links += [f'<link rel="preload" as="fetch" crossorigin href="{version}/{name}">' for name in ("engine.wasm", "texs.dat")]
+    links = [f'<link rel="modulepreload" fetchpriority="low" href="{version}/{served_name(name)}">' for name in early]
+    links += [f'<link rel="preload" as="fetch" crossorigin fetchpriority="low" href="{version}/{name}">' for name in ("engine.wasm", "texs.dat")]
     return replace_once(page, "</head>", "\n".join([*links, "</head>"]))
 
 
@@ -131,13 +131,13 @@ def make_file(parts, files_module, result):
               f"style-src '{sha256(style.encode())}'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
     page = parts["index.html"].decode()
     page = re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1)
-    page = re.sub(r'<link rel="(manifest|apple-touch-icon)".*\n', "", page)
-    page = re.sub(r'<p id="trouble-folder".*\n', "", page)
+    page = re.sub(r'<link rel="(manifest|apple-touch-icon|preload)".*\n', "", page)
+    page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
     page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)', r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)
     page = replace_once(page, '"icon-32.png"', f'"{data_address("icon-32.png", parts["icon-32.png"])}"')
     page = replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
-    page = replace_once(page, '<script defer src="watch.js"></script>', f"<script>{watch}</script>")
-    page = replace_once(page, '<script type="module" src="start.mjs"></script>\n', "")
+    page = replace_once(page, '<script defer src="watch.js" fetchpriority="low"></script>', f"<script>{watch}</script>")
+    page = replace_once(page, '<script type="module" src="start.mjs" fetchpriority="low"></script>\n', "")
     data = [data_element(name, data) for name, data in parts.items() if name.endswith((".webp", ".wasm", ".dat"))]
     page = replace_once(page, "</body>", "\n".join([*data, f'<script type="module">{script}</script>', "</body>"]))
     result.write_text(page)

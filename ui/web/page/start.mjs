@@ -17,6 +17,23 @@ function hasStyle() {
     return getComputedStyle(document.documentElement).getPropertyValue("--border") !== "";
 }
 
+// The title asks for Enter before the game can hear it.
+let enterPressed = false;
+function noteEnter(event) {
+    enterPressed ||= event.key === "Enter";
+}
+addEventListener("keydown", noteEnter);
+
+function hearEnter() {
+    removeEventListener("keydown", noteEnter);
+    if (enterPressed) document.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter" }));
+}
+
+// The main window shows the same picture by the next frame.
+function takeTitleAway() {
+    requestAnimationFrame(() => setTimeout(() => document.getElementById("title")?.remove()));
+}
+
 async function start() {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
     if (!hasStyle()) throw new Trouble("missing", { address: addressOf("style.css") });
@@ -36,6 +53,8 @@ async function start() {
     document.getElementById("notice").textContent = "";
     watchProgram();
     engine.callMain([]);
+    takeTitleAway();
+    hearEnter();
     keepForOffline();
 }
 
