@@ -38,6 +38,16 @@ def sha256(data):
     return "sha256-" + base64.b64encode(hashlib.sha256(data).digest()).decode()
 
 
+def with_style(page, style):
+    """The style stands in the page: one journey less before anything can be painted."""
+    page = replace_once(page, "style-src 'self'", f"style-src '{sha256(style.encode())}'")
+    return replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
+
+
+def style_of(parts, address):
+    return re.sub(r'url\("(.*?)"\)', lambda found: f'url("{address(found[1])}")', parts["style.css"].decode())
+
+
 # The site
 
 def served_name(name):
@@ -64,7 +74,8 @@ def texts_of(parts, suffix):
 
 def with_addresses(page, parts, version):
     """The page with the addresses of a version, and with all that it needs to start asked for at once."""
-    for name in ("style.css", "watch.js", "start.mjs", "pics/gui1.webp"):
+    page = with_style(page, style_of(parts, lambda name: f"{version}/{name}"))
+    for name in ("watch.js", "start.mjs", "pics/gui1.webp"):
         page = page.replace(f'"{name}"', f'"{version}/{served_name(name)}"')
     early = [name for name in static_imports(texts_of(parts, ".mjs"), "start.mjs", []) if name != "start.mjs"] + ["engine.mjs"]
     links = [f'<link rel="modulepreload" fetchpriority="low" href="{version}/{served_name(name)}">' for name in early]
@@ -75,7 +86,7 @@ def with_addresses(page, parts, version):
 def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
     version = hashlib.sha256(everything).hexdigest()[:12]
-    files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in parts.items()}
+    files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in parts.items() if name != "style.css"}
     files["index.html"] = with_addresses(parts["index.html"].decode(), parts, version).encode()
     kept = {"./" if name == "index.html" else name: sha256(data) for name, data in files.items() if not NOT_KEPT.fullmatch(name)}
     constants = f"const Version = {json.dumps(version)};\nconst Files = {json.dumps(kept, indent=0)};\n"
@@ -124,18 +135,17 @@ def data_element(name, data):
 
 def make_file(parts, files_module, result):
     modules = texts_of(parts, ".mjs") | {"files.mjs": files_module.read_text()}
-    style = re.sub(r'url\("(.*?)"\)', lambda found: f'url("{data_address(found[1], parts[found[1]])}")', parts["style.css"].decode())
+    style = style_of(parts, lambda name: data_address(name, parts[name]))
     watch = parts["watch.js"].decode()
     script = one_script(modules)
     policy = (f"default-src 'none'; script-src '{sha256(watch.encode())}' '{sha256(script.encode())}' 'wasm-unsafe-eval'; "
-              f"style-src '{sha256(style.encode())}'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
+              f"style-src 'self'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
     page = parts["index.html"].decode()
-    page = re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1)
+    page = with_style(re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1), style)
     page = re.sub(r'<link rel="(manifest|apple-touch-icon|preload)".*\n', "", page)
     page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
     page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)', r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)
     page = replace_once(page, '"icon-32.png"', f'"{data_address("icon-32.png", parts["icon-32.png"])}"')
-    page = replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
     page = replace_once(page, '<script defer src="watch.js" fetchpriority="low"></script>', f"<script>{watch}</script>")
     page = replace_once(page, '<script type="module" src="start.mjs" fetchpriority="low"></script>\n', "")
     data = [data_element(name, data) for name, data in parts.items() if name.endswith((".webp", ".wasm", ".dat"))]

@@ -13,10 +13,6 @@ function importEngine() {
     });
 }
 
-function hasStyle() {
-    return getComputedStyle(document.documentElement).getPropertyValue("--border") !== "";
-}
-
 // The title asks for Enter before the game can hear it.
 let enterPressed = false;
 function noteEnter(event) {
@@ -36,7 +32,6 @@ function takeTitleAway() {
 
 async function start() {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
-    if (!hasStyle()) throw new Trouble("missing", { address: addressOf("style.css") });
     const [{ default: createEngine }, program, story, hasArial] =
         await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
     const page = new Page(document.getElementById("stage"), hasArial);
