@@ -153,12 +153,15 @@ async function timed(page, act) {
 
 const countLines = (page) => page.$$eval('[id="Form1.Text1"] p', (lines) => lines.length);
 // Runs in the page, which fills its box faster than a hand does.
-function examineTerminal() {
+async function examineTerminal() {
+    const nextTask = () => new Promise((next) => { setTimeout(next); });
     const options = (list) => [...document.getElementById(list).querySelectorAll("[role=option]")];
     options("Form1.List2(0)").find((option) => option.textContent === "Prozkoumej").click();
+    await nextTask();
     options("Form1.List2(1)")[0].click();
+    await nextTask();
     document.activeElement.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter", bubbles: true, cancelable: true }));
-    return new Promise((next) => { setTimeout(next); });
+    await nextTask();
 }
 
 async function measureAnswers(browser, address) {

@@ -73,18 +73,16 @@ def texts_of(parts, suffix):
 
 
 def with_addresses(page, parts, version):
-    """The page with the addresses of a version, and with all that it needs to start asked for at once."""
+    """The page with the addresses of a version. Scripts are not asked for ahead: the title would be painted later, the game no sooner."""
     page = with_style(page, style_of(parts, lambda name: f"{version}/{name}"))
     for name in ("watch.js", "start.mjs", "pics/gui1.webp"):
         page = page.replace(f'"{name}"', f'"{version}/{served_name(name)}"')
-    early = [name for name in static_imports(texts_of(parts, ".mjs"), "start.mjs", []) if name != "start.mjs"] + ["engine.mjs"]
-    links = [f'<link rel="modulepreload" fetchpriority="low" href="{version}/{served_name(name)}">' for name in early]
-    links += [f'<link rel="preload" as="fetch" crossorigin fetchpriority="low" href="{version}/{name}">' for name in ("engine.wasm", "texs.dat")]
-    return replace_once(page, "</head>", "\n".join([*links, "</head>"]))
+    return page
 
 
 def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
+    everything += pathlib.Path(__file__).read_bytes()  # another way to put them together is another version
     version = hashlib.sha256(everything).hexdigest()[:12]
     files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in parts.items() if name != "style.css"}
     files["index.html"] = with_addresses(parts["index.html"].decode(), parts, version).encode()
