@@ -84,7 +84,8 @@ def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
     everything += pathlib.Path(__file__).read_bytes()  # another way to put them together is another version
     version = hashlib.sha256(everything).hexdigest()[:12]
-    files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in parts.items() if name != "style.css"}
+    served = {name: data for name, data in parts.items() if name != "style.css"}
+    files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in served.items()}
     files["index.html"] = with_addresses(parts["index.html"].decode(), parts, version).encode()
     kept = {"./" if name == "index.html" else name: sha256(data) for name, data in files.items() if not NOT_KEPT.fullmatch(name)}
     constants = f"const Version = {json.dumps(version)};\nconst Files = {json.dumps(kept, indent=0)};\n"
@@ -100,7 +101,8 @@ def make_site(parts, site):
 def as_function(module):
     """The module as a function of its own, which returns what the module exports."""
     exported = re.findall(r"^export (?:async function|function|class|const) (\w+)", module, re.M)
-    module = re.sub(r'^import (\{.*\}) from "\./(.*)";$', lambda found: f'const {found[1].replace(" as ", ": ")} = modules["{found[2]}"];', module, flags=re.M)
+    module = re.sub(r'^import (\{.*\}) from "\./(.*)";$',
+                    lambda found: f'const {found[1].replace(" as ", ": ")} = modules["{found[2]}"];', module, flags=re.M)
     module = re.sub(r"^export (?=async function|function|class|const)", "", module, flags=re.M)
     module, default = re.subn(r"^export default (\w+);\s*\Z", r"return { default: \1 };", module, flags=re.M)
     if re.search(r"^\s*(import|export)\b(?!\()", module, re.M):
@@ -142,7 +144,8 @@ def make_file(parts, files_module, result):
     page = with_style(re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1), style)
     page = re.sub(r'<link rel="(manifest|apple-touch-icon|preload)".*\n', "", page)
     page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
-    page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)', r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)
+    page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)',
+                  r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)
     page = replace_once(page, '"icon-32.png"', f'"{data_address("icon-32.png", parts["icon-32.png"])}"')
     page = replace_once(page, '<script defer src="watch.js" fetchpriority="low"></script>', f"<script>{watch}</script>")
     page = replace_once(page, '<script type="module" src="start.mjs" fetchpriority="low"></script>\n', "")

@@ -29,7 +29,9 @@ export async function fetchProgram(name) {
     const streams = response.headers.get("content-type") === "application/wasm";
     const compiled = streams ? WebAssembly.compileStreaming(response) : WebAssembly.compile(await readAll(response, name));
     // Browsers have many errors for a program that is not one, and one for a network that went.
-    return compiled.catch((error) => { throw error instanceof Trouble ? error : trouble(error instanceof TypeError ? "unreachable" : "damaged", name, error); });
+    return compiled.catch((error) => {
+        throw error instanceof Trouble ? error : trouble(error instanceof TypeError ? "unreachable" : "damaged", name, error);
+    });
 }
 
 // From the next visit on the page starts without a network, where the browser allows that.
