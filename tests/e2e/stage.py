@@ -20,7 +20,7 @@ def wait_for(what, condition):
         result = condition()
         if result:
             return result
-        time.sleep(0.05)
+        time.sleep(0.005)
     raise AssertionError(f"waited in vain for {what}")
 
 
@@ -60,8 +60,8 @@ class Stage:
         answer = subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True, text=True, check=False)
         return answer.returncode == 0 and answer.stdout.strip().isdigit()
 
-    def start_game(self):
-        self.game = start([self.program_folder / "orvel-tavoren"], self.running, env=self.environment)
+    def start_game(self, *through):
+        self.game = start([*through, self.program_folder / "orvel-tavoren"], self.running, env=self.environment)
 
     def xdotool(self, *arguments):
         answer = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True, check=False)
