@@ -50,10 +50,7 @@ class Player:
         self.on.xdotool("key", "--delay", "20", *names)
 
     def begin(self):
-        wait_for("the first window", lambda: self.on.shows("POZOR!") or self.on.shows("Orvel Tavoren v1.01"))
-        if self.on.shows("POZOR!"):  # no Arial here
-            self.on.xdotool("windowfocus", "--sync", self.on.window("POZOR!"))
-            self.keys("Return")
+        self.on.pass_font_warning()
         self.on.window("Orvel Tavoren v1.01")
         time.sleep(0.5)  # the window manager gives it the focus
         self.click_main(PROCEED)

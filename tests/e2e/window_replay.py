@@ -29,13 +29,13 @@ FOCUSED, SHOWING = 1 << 12, 1 << 25  # states
 CHILDREN = ("org.a11y.atspi.Accessible", "GetChildren", None)
 STATES = ("org.a11y.atspi.Accessible", "GetState", None)
 TEXT = ("org.a11y.atspi.Text", "GetText", GLib.Variant("(ii)", (0, -1)))
-EXTENTS = ("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))
+PLACE = ("org.a11y.atspi.Component", "GetExtents", GLib.Variant("(u)", (0,)))
 NAME, DESCRIPTION = (("org.freedesktop.DBus.Properties", "Get", GLib.Variant("(ss)", ("org.a11y.atspi.Accessible", name)))
                      for name in ("Name", "Description"))
 
 
 class Bus:
-    """The accessibility bus, asked many things in one go: on a busy machine it is the waiting that takes long."""
+    """The accessibility bus, asked many things at once: on a busy machine it is the waiting that takes long."""
 
     def __init__(self):
         address = Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
@@ -43,17 +43,15 @@ class Bus:
         self.connection = Gio.DBusConnection.new_for_address_sync(
             address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
 
-    def ask(self, question, things):
-        return self.ask_all([(question, thing) for thing in things])
-
-    def ask_all(self, asked):
-        answers = {}
-        for number, ((interface, method, arguments), (owner, path)) in enumerate(asked):
-            self.connection.call(owner, path, interface, method, arguments, None, 0, -1, None, answers.__setitem__ and (
-                lambda _, answer, number: answers.__setitem__(number, answer)), number)
+    def ask(self, things, *questions):
+        """For each thing of one program the answers to all questions, one after another."""
+        answers = []
+        asked = [(thing, question) for thing in things for question in questions]
+        for (owner, path), (interface, method, arguments) in asked:  # a program answers in this order
+            self.connection.call(owner, path, interface, method, arguments, None, 0, -1, None, lambda _, answer: answers.append(answer))
         while len(answers) < len(asked):
             GLib.MainContext.default().iteration(True)
-        return [self.connection.call_finish(answers[number]).unpack()[0] for number in range(len(asked))]
+        return [self.connection.call_finish(answer).unpack()[0] for answer in answers]
 
 
 class Window:
@@ -61,92 +59,89 @@ class Window:
         self.on = on
         self.bus = Bus()
         self.windows = []
-        self.known = {}
+        self.controls = {}
         self.game = wait_for("the game", self.find_game)
+        wait_for("the main window", lambda: self.look_around() and self.has_focus("Form1.Text2"))
+        self.read()
 
     def find_game(self):
-        programs = self.bus.ask(CHILDREN, [("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")])[0]
-        return dict(zip(self.bus.ask(NAME, programs), programs)).get("orvel-tavoren")
+        programs = self.bus.ask([("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")], CHILDREN)[0]
+        return next((program for program in programs if self.bus.ask([program], NAME) == ["orvel-tavoren"]), None)
 
     def look_around(self):
         """Meets the controls of windows that were not there before."""
-        windows = self.bus.ask(CHILDREN, [self.game])[0]
+        windows = self.bus.ask([self.game], CHILDREN)[0]
         if windows != self.windows:
-            things = sum(self.bus.ask(CHILDREN, windows), windows)
-            self.known = {name.split(":")[0]: thing for name, thing in zip(self.bus.ask(NAME, things), things)}
+            things = sum(self.bus.ask(windows, CHILDREN), [])
+            named = {name.split(":")[0]: thing for name, thing in zip(self.bus.ask(things, NAME), things)}
+            self.controls = {name: named[spoken] for name, spoken in SPOKEN.items() if spoken in named}
             self.windows = windows
+        return self.controls
 
     def read(self):
-        """The texts on the screen, the display and the light of the button; every event changes one of them."""
+        """The texts, which of them are on the screen, the display and the light of the button: no event leaves all as they were."""
         self.look_around()
-        boxes = [name for name in SPOKEN if "Text" in name and SPOKEN[name] in self.known]
-        labels = [(self.known[SPOKEN[name]], question) for name, question in (("Form1.Label3", DESCRIPTION), ("Form3.Label1", NAME))
-                  if SPOKEN[name] in self.known]
-        asked = [(question, self.known[SPOKEN[name]]) for name in boxes for question in (TEXT, STATES)]
-        answers = self.bus.ask_all(asked + [(question, thing) for thing, question in labels])
-        return {name: (text, bool(states[0] & SHOWING)) for name, text, states in zip(boxes, answers[::2], answers[1::2])}, answers[len(asked):]
-
-    def entries(self, name):
-        things = self.bus.ask(CHILDREN, [self.known[SPOKEN[name]]])[0]
-        return things, self.bus.ask(NAME, things)
+        boxes = [name for name in self.controls if "Text" in name]
+        answers = self.bus.ask([self.controls[name] for name in boxes], TEXT, STATES)
+        self.texts = {name: (text, bool(states[0] & SHOWING)) for name, text, states in zip(boxes, answers[::2], answers[1::2])}
+        labels = [name for name in self.controls if "Label" in name]
+        self.labels = dict(zip(labels, zip(*[iter(self.bus.ask([self.controls[name] for name in labels], NAME, DESCRIPTION))] * 2)))
+        return self.texts, self.labels
 
     def show(self):
-        texts, labels = self.read()
+        self.read()  # once more: the event may have come between two answers
         forms = {form: {"controls": {}} for form in ("Form1", "Form2", "Form3")}
-        for name in SPOKEN:
-            form, control = name.split(".")
-            if "Text" in control:
-                text, shown = texts.get(name, ("", False))
-                forms[form]["controls"][control] = {"text": text.replace("\n", "\r\n"), "visible": shown or form != "Form1"}
-        forms["Form1"]["controls"]["List1"] = {"entries": self.entries("Form1.List1")[1]}
-        forms["Form3"]["controls"]["Label1"] = {"caption": labels[1].partition(": ")[2] if labels[1:] else "--- SAFE MODE ---"}
+        for form, control in (name.split(".") for name in SPOKEN if "Text" in name):
+            text, shown = self.texts.get(f"{form}.{control}", ("", False))
+            forms[form]["controls"][control] = {"text": text.replace("\n", "\r\n"), "visible": shown or form != "Form1"}
+        carried = self.bus.ask(self.bus.ask([self.controls["Form1.List1"]], CHILDREN)[0], NAME)
+        display = self.labels.get("Form3.Label1", ["Displej: --- SAFE MODE ---"])[0].partition(": ")[2]
+        forms["Form1"]["controls"]["List1"] = {"entries": carried}
+        forms["Form3"]["controls"]["Label1"] = {"caption": display}
         return {"messageBoxes": [], "forms": forms}
 
-    def places(self, *things):
-        return self.bus.ask(EXTENTS, things)
-
     def click(self, name, entry):
-        thing = self.known[SPOKEN[name]]
+        place = self.bus.ask([self.controls[name]], PLACE)[0]
         if entry:
-            things, names = self.entries(name)
-            thing = things[names.index(entry)]
-            self.scroll(self.known[SPOKEN[name]], things, thing)
-        left, top, width, height = self.places(thing)[0]
-        self.on.xdotool("mousemove", left + width // 2, top + height // 2, "mousedown", 1, "mouseup", 1)
+            place = self.place_of_entry(name, entry, place)
+        left, top, width, height = place
+        self.on.hand(f"mousemove {left + width // 2} {top + height // 2} mousedown 1 mouseup 1")
 
-    def scroll(self, box, things, thing):
-        """Turns the wheel until the thing is in sight: what is not has no height."""
-        while thing not in (seen := self.in_sight(things)):
-            left, top, *_ = self.places(box)[0]
-            down = things.index(thing) > things.index(seen[-1])
-            self.on.xdotool("mousemove", left + 20, top + 20, "click", 5 if down else 4)
-            wait_for("the list to move", lambda: self.in_sight(things) != seen)
-
-    def in_sight(self, things):
-        return [thing for thing, place in zip(things, self.places(*things)) if place[3]]
+    def place_of_entry(self, name, entry, box):
+        """Turns the wheel until the entry is in sight; what is not has no height."""
+        entries = self.bus.ask([self.controls[name]], CHILDREN)[0]
+        answers = self.bus.ask(entries, NAME, PLACE)
+        index, places = answers[::2].index(entry), answers[1::2]
+        while not places[index][3]:
+            wheel = 5 if any(place[3] for place in places[:index]) else 4
+            self.on.hand(f"mousemove {box[0] + 20} {box[1] + 20} mousedown {wheel} mouseup {wheel}")
+            before = places
+            wait_for("the list to move", lambda: self.bus.ask(entries, PLACE) != before)
+            places = self.bus.ask(entries, PLACE)
+        return places[index]
 
     def has_focus(self, name):
-        return SPOKEN[name] in self.known and self.bus.ask(STATES, [self.known[SPOKEN[name]]])[0][0] & FOCUSED
+        return name in self.controls and self.bus.ask([self.controls[name]], STATES)[0][0] & FOCUSED
 
     def play(self, event):
-        kind, name, what = (event + "  ").split(" ", 2)
-        what = what.strip()
-        before = self.read()
+        kind, name, what = (event + " ").split(" ", 2)
+        what = what.rstrip()
+        before = self.texts, self.labels
         if kind == "click":
             self.click(name, what)
         else:
             wait_for(f"the focus in {name}", lambda: self.has_focus(name))
-            self.on.xdotool(*(["key", "--delay", 0, "Return"] if what == "Enter" else ["type", "--delay", 1, what]))
+            self.on.hand("key --delay 0 Return" if kind == "key" else f"type --delay 1 '{what}'")
         if kind == "type":
             wait_for(f"'{what}' in {name}", lambda: self.read()[0][name][0].endswith(what))
-        wait_for(f"an effect of: {event}", lambda: self.on.game.poll() is not None or self.read() != before)
+        wait_for(f"an effect of: {event}", lambda: self.read() != before)
 
 
 def main():
     with stage(sys.argv[1], {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "TZ": "UTC"}) as on:
         on.start_game("faketime", "--exclude-monotonic", "-f", MOMENT)
+        on.pass_font_warning()
         window = Window(on)
-        wait_for("the main window", lambda: window.look_around() or window.has_focus("Form1.Text2"))
         for event in map(str.strip, sys.stdin):
             try:
                 if event == "show":
