@@ -134,7 +134,7 @@ class Window:
             self.on.hand("key --delay 0 Return" if kind == "key" else f"type --delay 1 '{what}'")
         if kind == "type":
             wait_for(f"'{what}' in {name}", lambda: self.read()[0][name][0].endswith(what))
-        wait_for(f"an effect of: {event}", lambda: self.read() != before)
+        wait_for("an effect", lambda: self.read() != before)
 
 
 def main():
@@ -148,6 +148,8 @@ def main():
                     print(json.dumps(window.show()), flush=True)
                 elif event and event != DRAWN:
                     window.play(event)
+            except AssertionError as fault:
+                return print(json.dumps({"refused": str(fault)}))
             except GLib.GError:  # nobody answers any more
                 assert on.exit_code() == 0
                 return print(json.dumps({"ended": True}))
