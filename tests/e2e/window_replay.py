@@ -14,7 +14,8 @@ from gi.repository import Gio, GLib
 
 from stage import stage, wait_for
 
-# The random numbers of the winning game, and a moment by whose clock the game draws the same destination and digits.
+# The random numbers of the winning game, and a moment by whose clock the game draws the same destination and digits: the latest whole
+# second of 2025 that does, found by seeding the game's generator with one after the other.
 DRAWN = "random 0.4 0.5 0.2 0.8 0.1 0.6 0.3 0.7"
 MOMENT = "2025-11-29 08:48:03"
 
@@ -146,9 +147,11 @@ def main():
             try:
                 if event == "show":
                     print(json.dumps(window.show()), flush=True)
-                elif event and event != DRAWN:
+                elif event.startswith("random"):
+                    assert event == DRAWN, "by this clock the game draws other numbers"
+                elif event:
                     window.play(event)
-            except AssertionError as fault:
+            except (AssertionError, ValueError) as fault:
                 return print(json.dumps({"refused": str(fault)}))
             except GLib.GError:  # nobody answers any more
                 assert on.exit_code() == 0
