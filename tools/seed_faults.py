@@ -31,8 +31,20 @@ FOLDERS = ["interactions", "commands", "terminal", "core", "saves", "ui", "text"
 LEFT_OUT = {"app/main.cpp", "tools/pack_texts_main.cpp"}
 SLOW = 0.2  # seconds; such a test has a turn of its own
 LIMIT = 60  # seconds; what takes longer hangs
-# Most of a compilation would be these.
-PRECOMPILED = "algorithm array filesystem fstream functional iostream optional random span string variant vector".split()
+# Most of a compilation would be the headers of the library, so those of each folder are compiled once.
+PRECOMPILE = """
+function(precompile)
+    foreach(folder text ui core terminal interactions saves commands app ui_qt)
+        if(TARGET orvel_${folder})
+            target_precompile_headers(orvel_${folder} PRIVATE <algorithm> <array> <filesystem> <functional> <iostream> <string> <vector>)
+        endif()
+    endforeach()
+    if(TARGET orvel_ui_qt)
+        target_precompile_headers(orvel_ui_qt PRIVATE <QApplication> <QPainter> <QWidget>)
+    endif()
+endfunction()
+cmake_language(DEFER DIRECTORY ${CMAKE_SOURCE_DIR} CALL precompile)
+"""
 
 LEADING = r"(\s*(?:(?:\} )?else )?(?:if \(.*?\) |for \(.*?\) |case [^ ]+: +|default: +)?)"
 CALL = re.compile(LEADING + r"([A-Za-z_][\w:.]*(?:->[\w.]+)*(?:\[[^]]*\])?(?:\.\w+)?\(.*\)|(?:\+\+|--)[\w.>\[\]-]+);( return;)?$")
@@ -142,24 +154,17 @@ class Bench:
         self.first, self.others = (["orvel_qt_tests"], []) if qt else (["orvel_tests", "story"], ["replay", "save_fuzz", "text_store_fuzz"])
         self.environment = os.environ | {"TMPDIR": str(work / "tmp"), "QT_QPA_PLATFORM": "offscreen"}
         self.copy()
-        header = work / "standard.h"
-        headers = PRECOMPILED + (["QApplication", "QPainter", "QWidget"] if qt else [])
-        if not header.exists():  # everything depends on it
-            header.write_text("".join(f"#include <{name}>\n" for name in headers))
+        precompile = work / "precompile.cmake"
+        precompile.write_text(PRECOMPILE)
         linker = next((name for program, name in (("mold", "mold"), ("ld.lld", "lld")) if shutil.which(program)), None)
         options = [f"-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld={linker}"] if linker else []
-        flags = "-O0 -w" + (self.qt_flags() if qt else "")
-        subprocess.run(["c++", "-std=c++20", *flags.split(), "-x", "c++-header", header, "-o", str(header) + ".gch"], check=True)
         subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, f"-DORVEL_DESKTOP={'ON' if qt else 'OFF'}",
-                        f"-DCMAKE_CXX_FLAGS={flags} -include {header}", *options], check=True, stdout=subprocess.DEVNULL)
+                        "-DCMAKE_CXX_FLAGS=-O0 -w", f"-DCMAKE_PROJECT_INCLUDE={precompile}", *options],
+                       check=True, stdout=subprocess.DEVNULL)
         if not self.compiles(*self.first, *self.others):
             sys.exit("the tree does not compile")
         self.quick, self.slow = self.qt_tests() if qt else self.engine_tests()
         self.catches = collections.Counter()
-
-    def qt_flags(self):
-        told = subprocess.run(["pkg-config", "--cflags", "Qt6Widgets"], check=True, capture_output=True, text=True)
-        return " -fPIC " + told.stdout.strip()
 
     def copy(self):
         names = subprocess.run(["git", "-C", TREE, "ls-files", "-z"], check=True, capture_output=True, text=True).stdout.split("\0")
