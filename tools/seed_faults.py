@@ -168,8 +168,11 @@ class Bench:
         self.catches = collections.Counter()
 
     def copy(self):
-        names = subprocess.run(["git", "-C", TREE, "ls-files", "-z"], check=True, capture_output=True, text=True).stdout.split("\0")
-        for name in filter(None, names):
+        listed = subprocess.run(["git", "-C", TREE, "ls-files", "-z"], check=True, capture_output=True, text=True).stdout
+        names = set(listed.split("\0")) - {""}
+        for path in [each for each in self.tree.rglob("*") if each.is_file() and str(each.relative_to(self.tree)) not in names]:
+            path.unlink()
+        for name in names:
             target = self.tree / name
             target.parent.mkdir(parents=True, exist_ok=True)
             if not target.exists() or target.read_bytes() != (TREE / name).read_bytes():
