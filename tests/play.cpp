@@ -139,10 +139,6 @@ Play& Play::Go(std::string_view direction) {
     return Proceed();
 }
 
-Play& Play::Examine(Item item) {
-    return Run(verb::Examine, item);
-}
-
 Play& Play::Use(Item item, Item target) {
     Choose(verb::Use);
     ChooseObject(item);
@@ -160,14 +156,6 @@ Play& Play::Put(Item item) {
 
 Play& Play::Open(Item item) {
     return Run(verb::Open, item);
-}
-
-Play& Play::Close(Item item) {
-    return Run(verb::Close, item);
-}
-
-Play& Play::Talk(Item item) {
-    return Run(verb::Talk, item);
 }
 
 void Play::Clear() {
@@ -222,10 +210,6 @@ bool Play::Sees(Item item) const {
 
 bool Play::Carries(Item item) const {
     return IsCarried(game.state, item);
-}
-
-bool Play::Lies(Item item, std::int16_t sector) const {
-    return HoldsItem(game.state.Sectors[sector], item);
 }
 
 std::string Play::View() {

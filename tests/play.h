@@ -35,13 +35,10 @@ public:
     // The player's words.
     Play& Proceed();  // Enter in the command line
     Play& Go(std::string_view direction);
-    Play& Examine(Item item);
     Play& Use(Item item, Item target);
     Play& Take(Item item);
     Play& Put(Item item);
     Play& Open(Item item);
-    Play& Close(Item item);
-    Play& Talk(Item item);
     void Clear();
     void Choose(std::int16_t verb);  // without Enter
     void ChooseObject(Item item);    // one that he sees or carries
@@ -59,7 +56,6 @@ public:
 
     bool Sees(Item item) const;
     bool Carries(Item item) const;
-    bool Lies(Item item, std::int16_t sector) const;
     const std::string& Output() const { return Form1().Text1.Text(); }
     std::string View();  // of the current sector, which clears the output box
     std::string Text(TextNumber number) const { return std::string(game.texts.Text(number).value()); }

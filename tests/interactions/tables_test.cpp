@@ -1,14 +1,12 @@
 #include <algorithm>
 
 #include "interactions/doors.h"
-#include "interactions/receptacles.h"
 #include "interactions/verbs.h"
 #include "tests/play.h"
 
 namespace {
 
 using enum Item;
-using testing::ElementsAre;
 
 std::vector<Item> AllItems() {
     std::vector<Item> items;
@@ -36,19 +34,6 @@ TEST(Doors, ShareTheirFlagAndTheirLockWithTheOtherSide) {
     }
 }
 
-TEST(Receptacles, OpenAndCloseOnce) {
-    Play play = Play::InCabin();
-    play.State().CaptainDismissed = True;
-    for (const Receptacle& each : Receptacles()) {
-        play.Place(each.Thing, sector::Cabin);
-        EXPECT_EQ(play.Close(each.Thing).LastSaid(), each.AlreadyClosed);
-        EXPECT_THAT(play.Open(each.Thing).Said(), ElementsAre(std::string(each.Opened)));
-        EXPECT_EQ(play.Open(each.Thing).LastSaid(), each.AlreadyOpen);
-        EXPECT_EQ(play.Close(each.Thing).Said().front(), each.Closed);
-        EXPECT_EQ(play.State().*each.Open, False);
-    }
-}
-
 TEST(Things, ThatCanBeTakenCanBePutDownAndNoOthers) {
     Play play = Play::InCabin();
     play.State().NewspaperGiven = play.State().CartReleased = True;
@@ -71,17 +56,6 @@ TEST(Things, ThatCanBeTakenCanBePutDownAndNoOthers) {
     EXPECT_EQ(portable, 33);
 }
 
-TEST(Things, AreAllDescribedButOne) {
-    Play play = Play::InCabin();
-    for (const Item item : AllItems()) {
-        play.Place(item, sector::Cabin);
-        EXPECT_EQ(play.Examine(item).Said().empty(), item == Suspect) << ItemName(item);
-    }
-    play.Form1().Text1.SetText("");
-    DoExamine(play.TheGame(), Self);
-    EXPECT_EQ(play.Output(), "");
-}
-
 TEST(Things, MustBeCarriedToBeUsed) {
     Play play = Play::In(sector::Bathroom);
     GameState& state = play.State();
@@ -94,17 +68,6 @@ TEST(Things, MustBeCarriedToBeUsed) {
     const std::size_t pairs = AllItems().size() * AllItems().size();
     EXPECT_EQ(std::ranges::count(said, "Nezdá se, že by to mělo fungovat."), pairs);
     EXPECT_EQ(said.size(), 1 + pairs);  // the view and the refusals
-}
-
-TEST(People, AreTheOnlyOnesWhoAnswer) {
-    Play play = Play::InCabin();
-    int answers = 0;
-    for (const Item item : AllItems()) {
-        play.Place(item, sector::Cabin);
-        answers += play.Talk(item).Said().front() != "S tímto nemůžeš mluvit!";
-        play.Place(item, sector::None);
-    }
-    EXPECT_EQ(answers, 9);
 }
 
 }  // namespace
