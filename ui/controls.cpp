@@ -103,4 +103,9 @@ const ControlLayout& LayoutOf(const Control& control) {
     return std::visit([](const auto* each) -> const ControlLayout& { return each->Layout; }, control);
 }
 
+std::string_view SpokenLight(const Label& label) {
+    if (label.TextColour() == PaleCyan) return "svítí";
+    return label.TextColour() == Teal ? "zhaslo" : "";
+}
+
 }  // namespace ui

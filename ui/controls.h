@@ -113,6 +113,9 @@ using Control = std::variant<TextBox*, ListBox*, Label*>;
 
 const ControlLayout& LayoutOf(const Control& control);
 
+// What a screen reader says of a state light; nothing of other labels.
+std::string_view SpokenLight(const Label& label);
+
 // A rounded rectangle in pixels of the whole window, frame and title bar included.
 struct RoundRegion {
     int Left, Top, Right, Bottom, Ellipse;

@@ -21,9 +21,7 @@ public:
         const QString name = ToQt(label.Layout.Spoken);
         switch (kind) {
             case QAccessible::Name: return label.Caption().empty() ? name : name + ": " + ToQt(label.Caption());
-            case QAccessible::Description:
-                if (label.TextColour() == PaleCyan) return "svítí";
-                return label.TextColour() == Teal ? "zhaslo" : QString();
+            case QAccessible::Description: return ToQt(SpokenLight(label));
             default: return QAccessibleWidget::text(kind);
         }
     }

@@ -67,7 +67,7 @@ void Mirror::CopyControl(page::Place place, Shown&, const ListBox& list) {
 }
 
 void Mirror::CopyControl(page::Place place, Shown&, const Label& label) {
-    page::ShowLabel(place, label.Caption(), label.TextColour());
+    page::ShowLabel(place, label);
 }
 
 void Mirror::CopyFocus() {

@@ -29,8 +29,9 @@ EM_JS(void, page_show_line, (int form, int control, const char* text, int size, 
 EM_JS(void, page_show_list, (int form, int control, const char* entries, int size, int selected), {
     Module.page.control(form, control).show(UTF8ToString(entries, size).split("\n").slice(0, -1), selected);
 })
-EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int red, int green, int blue), {
-    Module.page.control(form, control).show(UTF8ToString(caption, size), `rgb(${red} ${green} ${blue})`);
+EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int colour, const char* light, int lightSize), {
+    const hex = colour.toString(16).padStart(6, "0");
+    Module.page.control(form, control).show(UTF8ToString(caption, size), "#" + hex, UTF8ToString(light, lightSize));
 })
 EM_JS(void, page_show_focus, (int form, int control), { Module.page.showFocus(form, control); })
 EM_JS(void, page_show_busy_pointer, (int busy), { Module.page.showBusyPointer(busy !== 0); })
@@ -110,8 +111,12 @@ void ShowList(Place place, const ListBox& list) {
     page_show_list(place.Form, place.Control, entries.data(), Size(entries), list.Selected());
 }
 
-void ShowLabel(Place place, std::string_view caption, Colour colour) {
-    page_show_label(place.Form, place.Control, caption.data(), Size(caption), colour.Red, colour.Green, colour.Blue);
+void ShowLabel(Place place, const Label& label) {
+    const std::string_view caption = label.Caption();
+    const std::string_view light = SpokenLight(label);
+    const auto [red, green, blue] = label.TextColour();
+    const int colour = red << 16 | green << 8 | blue;
+    page_show_label(place.Form, place.Control, caption.data(), Size(caption), colour, light.data(), Size(light));
 }
 
 void ShowFocus(Place place) {

@@ -39,7 +39,7 @@ void ReplaceOutput(Place place, std::string_view text);
 void AppendOutput(Place place, std::string_view text);
 void ShowLine(Place place, std::string_view text, std::size_t caretByte);
 void ShowList(Place place, const ListBox& list);
-void ShowLabel(Place place, std::string_view caption, Colour colour);
+void ShowLabel(Place place, const Label& label);
 void ShowFocus(Place place);
 void ShowBusyPointer(bool busy);
 void OpenMessageBox(std::string_view text, std::string_view title);

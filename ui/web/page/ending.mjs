@@ -4,6 +4,7 @@ export function sayTheEnd() {
     const again = Object.assign(document.createElement("button"), { type: "button", textContent: "Hrát znovu" });
     again.addEventListener("click", () => location.reload());
     const notice = document.getElementById("notice");
+    notice.classList.add("ended");
     notice.replaceChildren("Hra skončila.", again);
     again.focus();
 }

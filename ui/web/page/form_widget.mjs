@@ -27,10 +27,8 @@ export class FormWidget {
         this.element.className = layout.backdrop ? "form backdrop" : layout.framed ? "form main" : "form panel";
         this.element.hidden = true;
         if (!layout.backdrop) this.element.setAttribute("aria-label", layout.caption);
-        if (this.element.classList.contains("panel")) {
-            this.element.setAttribute("role", "dialog");
-            this.element.setAttribute("aria-modal", "true");
-        }
+        // What is behind it is made inert; that it is modal must not be said, or readers would not hear the announcer.
+        if (this.element.classList.contains("panel")) this.element.setAttribute("role", "dialog");
         dress(this.element, layout);
         this.controls = layout.controls.map((each, control) => new Kinds[each.kind](each, { form, control }, page));
         this.controls.forEach((control, index) => {
@@ -41,11 +39,21 @@ export class FormWidget {
         this.element.append(...this.controls.map((control) => control.element));
     }
 
+    // What its boxes and labels have to say since they were last asked.
+    takeNews() {
+        return this.element.hidden ? [] : this.controls.map((control) => control.takeNews?.() ?? "");
+    }
+
+    // The game has ended: there is nothing left to do but to read.
+    retire() {
+        this.controls.forEach((control) => { control.element.inert = !(control instanceof OutputView); });
+    }
+
     show(visible, reachable, picture) {
         this.element.hidden = !visible;
         this.element.inert = !reachable;
         if (this.#picture === picture) return;
         this.#picture = picture;
-        this.element.style.backgroundImage = `url("${addressOf(`pics/${picture}.webp`)}")`;
+        this.element.style.setProperty("--picture", `url("${addressOf(`pics/${picture}.webp`)}")`);
     }
 }

@@ -7,6 +7,7 @@ export class InputLine {
     #place;
     #input = document.createElement("input");
     #beforeCaret = document.createTextNode("");
+    #behindCaret = document.createTextNode("");
     #ruler = document.createElement("div");
     #composing = false;
     #keyTold = false;  // whether a key came before the edit that it makes
@@ -18,6 +19,7 @@ export class InputLine {
         this.element = document.createElement("div");
         this.element.className = "line";
         Object.assign(this.#input, { type: "text", readOnly: layout.readOnly, autocomplete: "off", spellcheck: false, enterKeyHint: "send" });
+        if (layout.readOnly) this.#input.inputMode = "none";
         this.#input.setAttribute("autocapitalize", "off");
         this.#input.setAttribute("autocorrect", "off");
         this.#input.setAttribute("aria-label", layout.spoken);
@@ -25,11 +27,11 @@ export class InputLine {
         this.#listen();
     }
 
-    // The browser's own caret has no shape. This one stands behind an unseen copy of the text before it.
+    // The browser's own caret has no shape. This one stands in an unseen copy of the text.
     #newCaret() {
         const caret = document.createElement("span");
         caret.className = "caret";
-        this.#ruler.append(this.#beforeCaret, caret);
+        this.#ruler.append(this.#beforeCaret, caret, this.#behindCaret);
         const frame = document.createElement("div");
         frame.className = "ruler";
         frame.setAttribute("aria-hidden", "true");
@@ -87,6 +89,7 @@ export class InputLine {
 
     #placeCaret() {
         this.#beforeCaret.data = this.#input.value.slice(0, this.#input.selectionEnd);
+        this.#behindCaret.data = this.#input.value.slice(this.#input.selectionEnd);
         this.#ruler.style.marginLeft = `${-this.#input.scrollLeft}px`;
     }
 

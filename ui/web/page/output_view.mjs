@@ -13,6 +13,8 @@ export class OutputView {
     #text = newElement("div", "text");
     #probe = newElement("div", "probe");
     #line = null;
+    #news = "";
+    #atEnd = false;
 
     constructor(layout, place, page) {
         this.element = newElement("div", "output");
@@ -25,15 +27,23 @@ export class OutputView {
         this.element.append(this.#text, this.#probe);
         this.element.addEventListener("focusin", () => page.events.post(EventKind.Focus, place));
         this.element.addEventListener("click", () => page.takeFocus());
+        // An on-screen keyboard must not cover the last words.
+        this.element.addEventListener("scroll", () => {
+            const { scrollTop, clientHeight, scrollHeight } = this.element;
+            this.#atEnd = scrollTop + clientHeight >= scrollHeight - 2;
+        });
+        new ResizeObserver(() => this.#follow()).observe(this.element);
         this.clear();
     }
 
     clear() {
+        this.#news = "";
         this.#text.replaceChildren(newElement("div", "chunk"));
         this.#startLine();
     }
 
     append(text) {
+        this.#news += text;
         const [first, ...others] = text.split("\r\n");
         this.#line.append(first);
         for (const line of others) {
@@ -48,9 +58,20 @@ export class OutputView {
         this.#text.lastChild.append(this.#line);
     }
 
+    takeNews() {
+        const news = this.element.classList.contains("invisible") ? "" : this.#news;
+        if (news !== "") this.#news = "";
+        return news;
+    }
+
     show(visible, atEnd) {
         this.element.classList.toggle("invisible", !visible);
-        if (atEnd) this.element.scrollTop = this.element.scrollHeight;
+        this.#atEnd = atEnd;
+        this.#follow();
+    }
+
+    #follow() {
+        if (this.#atEnd) this.element.scrollTop = this.element.scrollHeight;
     }
 
     // All lines are equally high.

@@ -1,4 +1,5 @@
 // The page as the program sees it: page.cpp calls these functions, and takes its events here.
+import { Announcer } from "./announcer.mjs";
 import { EventQueue } from "./event_queue.mjs";
 import { sayTheEnd } from "./ending.mjs";
 import { FormWidget } from "./form_widget.mjs";
@@ -9,6 +10,7 @@ export class Page {
     #stage;
     #forms = [];
     #messageBox;
+    #announcer = new Announcer();
     #focusPlace = "";
 
     constructor(stage, hasArial) {
@@ -18,12 +20,17 @@ export class Page {
         this.#messageBox = new MessageBox(this.events);
         this.focused = null;  // the control that has the focus in the program
         this.keySwallowed = false;
-        stage.append(this.#messageBox.element);
+        stage.append(this.#messageBox.element, this.#announcer.element);
         listenToKeys(this, this.#messageBox);
     }
 
     waitForEvent() {
+        this.#announce();
         return this.events.take();
+    }
+
+    #announce() {
+        this.#announcer.say(this.#forms.flatMap((form) => form.takeNews()));
     }
 
     eventNumber(field) {
@@ -90,6 +97,8 @@ export class Page {
     }
 
     sayTheEnd() {
+        this.#forms.forEach((form) => form.retire());
+        this.#announce();
         sayTheEnd();
     }
 }
