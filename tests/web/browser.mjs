@@ -86,7 +86,7 @@ export class Browser {
     }
 
     #watch(tab, origin) {
-        tab.on("console", (message) => ["error", "assert"].includes(message.type()) && this.complaints.push(`console: ${message.text()}`));
+        tab.on("console", (message) => ["error", "assert"].includes(message.type()) && this.complaints.push(`console: ${message.text()} ${message.location().url ?? ""}`));
         tab.on("pageerror", (error) => this.complaints.push(`uncaught: ${error.stack}`));
         tab.on("request", (request) => {
             const { protocol, origin: asked } = new URL(request.url());
