@@ -11,6 +11,7 @@
 #include "core/carrying.h"
 #include "core/room_view.h"
 #include "core/shut_down.h"
+#include "core/stages.h"
 #include "saves/durable_file.h"
 #include "saves/save_format.h"
 #include "text/characters.h"
@@ -75,6 +76,30 @@ std::string Explain(std::string_view what, const std::system_error& error) {
     return std::string(what).append(" ").append(Reason(error.code().value()));
 }
 
+// All that a saved game holds of the state, whatever its name.
+Bytes Contents(const GameState& state) {
+    return EncodeSave(state, "", {.Name = 0, .DoorCode = 0});
+}
+
+GameState FirstState() {
+    GameState state;
+    BuildSectors(state.Sectors);
+    state.CurrentSector = sector::Cabin;
+    state.PlayerX = state.Sectors[sector::Cabin].X;
+    state.PlayerY = state.Sectors[sector::Cabin].Y;
+    return state;
+}
+
+bool Holds(const fs::path& file, const Bytes& contents, const GameState& current) {
+    try {
+        const Bytes save = ReadWholeFile(file, "", MostSaveBytes);
+        const auto held = DecodeSave(save, NameInSave(save), current);
+        return held && Contents(*held) == contents;
+    } catch (const ui::GameError&) {
+        return false;
+    }
+}
+
 // A whole number from 0 to 99.
 std::int16_t DrawKey(Game& game) {
     return static_cast<std::int16_t>(game.random() * 100);
@@ -107,6 +132,20 @@ void SaveGame(Game& game, std::string_view name) {
         ReplaceFile(folder / FileName(folder, name), file);
     } catch (const std::system_error& error) {
         throw ui::GameError(Explain("Pozici se nepodařilo uložit.", error));
+    }
+}
+
+bool HasUnsavedSteps(const Game& game) {
+    if (game.state.GameStage != GameStage::Running || game.state.GameOver == True) return false;
+    const Bytes contents = Contents(game.state);
+    if (contents == Contents(FirstState())) return false;
+    try {
+        const fs::path folder = SavesFolder(game);
+        const auto files = FilesIn(folder);
+        return !std::ranges::any_of(files,
+                                    [&](const std::string& file) { return IsSave(file) && Holds(folder / file, contents, game.state); });
+    } catch (const std::system_error&) {
+        return true;
     }
 }
 

@@ -84,6 +84,11 @@ Bytes EncodeSave(const GameState& state, std::string_view name, SaveKeys keys) {
     return std::move(writer).Written();
 }
 
+std::string NameInSave(std::span<const std::uint8_t> file) {
+    WordReader reader(file, std::string(LoadError));
+    return TakeKeyedText(reader);
+}
+
 std::optional<GameState> DecodeSave(std::span<const std::uint8_t> file, std::string_view name, const GameState& current) {
     WordReader reader(file, std::string(LoadError));
     if (TakeKeyedText(reader) != name) return std::nullopt;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "core/game_state.h"
@@ -19,6 +20,9 @@ struct SaveKeys {
 
 // All characters of the two strings are in the code page.
 Bytes EncodeSave(const GameState& state, std::string_view name, SaveKeys keys);
+
+// The name that the game was saved under. Throws GameError when the file is damaged.
+std::string NameInSave(std::span<const std::uint8_t> file);
 
 // The current state with everything in it that the saved game holds; nothing when the game was saved under another name.
 // Throws GameError when the file is damaged.

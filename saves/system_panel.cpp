@@ -14,12 +14,20 @@ namespace {
 
 constexpr std::string_view ForbiddenCharacters = ".,:;\"'&#$?*";
 
+bool HasForbiddenCharacter(std::string_view name) {
+    return name.find_first_of(ForbiddenCharacters) != std::string_view::npos;
+}
+
+bool IsExit(std::string_view name) {
+    return text::LowerAscii(name) == "exit";
+}
+
 // Refuses without a word; a save or load that fails throws and so leaves the panel open.
 void ReadCom(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     const std::string name = panel.Text1.Text();
-    if (name.find_first_of(ForbiddenCharacters) != std::string::npos) return;
-    if (text::LowerAscii(name) == "exit") return ui::Hide(panel.Window);
+    if (HasForbiddenCharacter(name)) return;
+    if (IsExit(name)) return ui::Hide(panel.Window);
 
     if (game.state.CommandVerb == verb::Load) {
         const auto& saves = panel.List1.Entries();
@@ -70,6 +78,21 @@ void ListSaves(Game& game) {
 void OpenSystemPanel(Game& game) {
     ListSaves(game);
     game.desktop.ShowModal(game.windows.Form4.Window);
+}
+
+bool CanNameSave(std::string_view name) {
+    using namespace std::string_view_literals;
+    const bool isPathOrLines = name.find_first_of("/\\\0\r\n"sv) != std::string_view::npos;
+    return !isPathOrLines && !HasForbiddenCharacter(name) && !IsExit(name);
+}
+
+void RenewSystemPanel(Game& game) {
+    ui::SystemWindow& panel = game.windows.Form4;
+    if (!panel.Window.Visible) return;
+    const std::string typed = panel.Text1.Text();
+    const std::size_t caret = panel.Text1.Caret();
+    ListSaves(game);
+    panel.Text1.EditText(typed, caret);
 }
 
 void ConnectForm4(Game& game) {

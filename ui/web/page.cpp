@@ -42,6 +42,10 @@ EM_JS(void, page_close_message_box, (), { Module.page.closeMessageBox(); })
 EM_JS(void, page_say_the_end, (), { Module.page.sayTheEnd(); })
 EM_JS(int, page_count_output_lines, (int form, int control), { return Module.page.control(form, control).countLines(); })
 EM_JS(int, page_has_arial, (), { return Module.page.hasArial ? 1 : 0; })
+EM_JS(void, page_offer_game, (const void* game), { Module.page.game = game; })
+EM_JS(void, page_answer_inspection, (int finding, const char* name, int size), {
+    Module.page.inspection = { finding, name: UTF8ToString(name, size) };
+})
 EM_JS(double, page_random, (), { return Math.random(); })
 // NOLINTEND
 // clang-format on
@@ -145,6 +149,14 @@ std::size_t CountOutputLines(Place place) {
 
 bool HasArial() {
     return page_has_arial() != 0;
+}
+
+void OfferGame(const void* game) {
+    page_offer_game(game);
+}
+
+void AnswerInspection(int finding, std::string_view name) {
+    page_answer_inspection(finding, name.data(), Size(name));
 }
 
 double Random() {

@@ -15,7 +15,7 @@ struct Place {
 };
 
 // The numbers are known to page/event_queue.mjs.
-enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge };
+enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge, FilesChanged };
 
 struct Event {
     EventKind Kind;
@@ -50,6 +50,11 @@ void SayTheEnd();
 std::size_t CountOutputLines(Place place);
 // Whether the text looks and runs as Arial does.
 bool HasArial();
+
+// Lets the page ask the exported functions about the running game until SayTheEnd. It hands the address back to them and knows no more.
+void OfferGame(const void* game);
+// The answer to a question about a file: a number that page/incoming_files.mjs knows, and a name.
+void AnswerInspection(int finding, std::string_view name);
 
 // The browser's own random numbers in [0, 1).
 double Random();

@@ -89,6 +89,7 @@ bool WebDesktop::IsReachable(const page::Event& event) const {
 
 void WebDesktop::PlayNextEvent() {
     const page::Event event = page::WaitForEvent();
+    if (event.Kind == page::EventKind::FilesChanged) return Enter(FilesChanged);
     if (!IsReachable(event)) return;
     Enter([&] { Play(event, *windows.All[static_cast<std::size_t>(event.Target.Form)]); });
 }
@@ -107,7 +108,8 @@ void WebDesktop::Play(const page::Event& event, Form& form) {
         case page::EventKind::ClickLabel:
             if (label != nullptr) ClickLabel(**label);
             return;
-        case page::EventKind::Acknowledge: return;
+        case page::EventKind::Acknowledge:
+        case page::EventKind::FilesChanged: return;
     }
 }
 

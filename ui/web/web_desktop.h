@@ -14,6 +14,9 @@ class WebDesktop final : public Desktop {
 public:
     explicit WebDesktop(Windows& mirrored) : windows(mirrored), mirror(mirrored) {}
 
+    // Called when files came or went without the program's doing, as between two events of the player.
+    std::function<void()> FilesChanged;
+
     // Shows the windows and plays until the program ends.
     void Run();
 

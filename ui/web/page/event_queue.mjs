@@ -2,7 +2,7 @@
 // so the answer is in the page before that task ends.
 
 // As in page.h.
-export const EventKind = { Focus: 0, Key: 1, Edit: 2, ClickEntry: 3, ClickLabel: 4, Acknowledge: 5 };
+export const EventKind = { Focus: 0, Key: 1, Edit: 2, ClickEntry: 3, ClickLabel: 4, Acknowledge: 5, FilesChanged: 6 };
 
 export class EventQueue {
     #events = [];

@@ -22,7 +22,8 @@ export function listenToKeys(page, messageBox) {
         if (event.isComposing || isShortcut(event)) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);
         const here = page.controlAround(document.activeElement);
-        if (here === null && document.activeElement !== document.body) return;  // outside of the game's windows
+        const outside = here === null && document.activeElement !== document.body;
+        if (outside || document.querySelector("dialog[open]")) return;
         const character = characterOf(event);
         if (here?.keyDown(event, character) || here === page.focused) return;
         page.focused?.keyDown(event, character);

@@ -20,6 +20,8 @@ export class Page {
         this.#messageBox = new MessageBox(this.events);
         this.focused = null;  // the control that has the focus in the program
         this.keySwallowed = false;
+        this.game = 0;  // its address in the program, for the program's answers; 0 when none is running
+        this.inspection = null;  // the program's answer about a file
         stage.append(this.#messageBox.element, this.#announcer.element);
         listenToKeys(this, this.#messageBox);
     }
@@ -99,6 +101,7 @@ export class Page {
     sayTheEnd() {
         this.#forms.forEach((form) => form.retire());
         this.#announce();
+        this.game = 0;
         sayTheEnd();
     }
 }

@@ -1,7 +1,11 @@
 // Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
+import { EventKind } from "./event_queue.mjs";
 import { fetchBytes, fetchProgram } from "./files.mjs";
 import { Page } from "./page.mjs";
+import { PageMenu } from "./page_menu.mjs";
+import { SavedGames } from "./saved_games.mjs";
 import { loadTextFace } from "./text_face.mjs";
+import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
@@ -23,6 +27,10 @@ async function start() {
     });
     engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
+    const savedGames = new SavedGames(engine.FS, `${ProgramFolder}/data/saves`);
+    savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
+    new PageMenu(engine, savedGames);
+    askBeforeLeaving(engine, savedGames);
     note("");
     engine.callMain([]);
 }

@@ -1,0 +1,72 @@
+// Takes files in among the saved games, once the program has found that a load will accept them.
+
+const Findings = ["sound", "damaged", "too long", "name refused"];  // as in saves/save_inspection.h
+const EnoughBytes = 2 ** 22;  // of a file; the program finds less too long
+const Incoming = "/incoming";
+
+function inspect(engine, bytes) {
+    engine.FS.writeFile(Incoming, bytes);
+    engine._InspectIncoming();
+    engine.FS.unlink(Incoming);
+    const { finding, name } = engine.page.inspection;
+    return { finding: Findings[finding], name };
+}
+
+function same(some, others) {
+    return some.length === others.length && some.every((byte, index) => byte === others[index]);
+}
+
+export class IncomingFiles {
+    #engine;
+    #savedGames;
+    #ask;
+
+    // `ask` puts a question with the words for yes and for no, and promises the answer.
+    constructor(engine, savedGames, ask) {
+        this.#engine = engine;
+        this.#savedGames = savedGames;
+        this.#ask = ask;
+    }
+
+    // What became of the file, in a sentence.
+    async take(file) {
+        let bytes;
+        try {
+            bytes = new Uint8Array(await file.slice(0, EnoughBytes).arrayBuffer());
+        } catch {
+            return `Soubor „${file.name}“ se nepodařilo přečíst.`;
+        }
+        const { finding, name } = inspect(this.#engine, bytes);
+        switch (finding) {
+            case "sound": return this.#takeSound(file, name, bytes);
+            case "too long": return `Soubor „${file.name}“ je na uloženou pozici příliš dlouhý.`;
+            case "name refused": return `Pozice v souboru „${file.name}“ se uvnitř jmenuje „${name}“ a takový název hra nepřijme.`;
+            default: return `Soubor „${file.name}“ není uložená pozice, nebo je poškozený.`;
+        }
+    }
+
+    async #takeSound(file, name, bytes) {
+        if (!this.#savedGames.canName(name)) return `Název pozice v souboru „${file.name}“ je příliš dlouhý.`;
+        const present = this.#savedGames.bytes(name);
+        if (present && same(present, bytes)) return `Pozice „${name}“ už tu je, a úplně stejná.`;
+        if (!await this.#mayTake(file, name, present !== undefined)) return `Soubor „${file.name}“ zůstal stranou.`;
+        try {
+            await this.#savedGames.put(name, bytes);
+        } catch {
+            return `Pozice „${name}“ je přidaná, ale jen do otevřené stránky: prohlížeč ji neuložil.`;
+        }
+        return `Pozice „${name}“ je přidaná.`;
+    }
+
+    // A file under another name would end the game when it is loaded.
+    async #mayTake(file, name, overwrites) {
+        const fileName = file.name.normalize().replace(/\.tvx$/i, "");
+        const renamed = fileName !== name;
+        if (!renamed && !overwrites) return true;
+        const facts = [
+            renamed ? `Soubor „${file.name}“ někdo přejmenoval, pozice v něm se uvnitř jmenuje „${name}“ a jinak se jmenovat nemůže.` : "",
+            overwrites ? `Pozice „${name}“ už tu je. Přepsat ji souborem?` : `Přidat ji jako „${name}“?`,
+        ];
+        return this.#ask(facts.filter(Boolean).join(" "), overwrites ? "Přepsat" : "Přidat", overwrites ? "Ponechat" : "Nepřidávat");
+    }
+}

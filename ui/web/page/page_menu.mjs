@@ -1,0 +1,206 @@
+// The page's own menu, outside of the game's windows: what the browser does with the saved games, and their way out of it and into it.
+import { IncomingFiles } from "./incoming_files.mjs";
+import { zip } from "./zip.mjs";
+
+const Told = "orvel-tavoren-told";  // that the browser promised nothing
+const AllFiles = "orvel-tavoren-pozice.zip";
+
+function newElement(name, properties = {}, ...children) {
+    const element = Object.assign(document.createElement(name), properties);
+    element.append(...children);
+    return element;
+}
+
+function newButton(textContent, act, label) {
+    const button = newElement("button", { type: "button", textContent });
+    if (label) button.setAttribute("aria-label", label);
+    button.addEventListener("click", act);
+    return button;
+}
+
+function listed(names) {
+    return names.map((name) => `„${name}“`).join(", ");
+}
+
+// In a private window this too is gone with the window, so the next one says it again.
+function wasTold() {
+    try {
+        return localStorage.getItem(Told) !== null;
+    } catch {
+        return false;
+    }
+}
+
+function rememberTold() {
+    try {
+        localStorage.setItem(Told, "");
+    } catch {
+        // It will be said again.
+    }
+}
+
+export class PageMenu {
+    #savedGames;
+    #incoming;
+    #address = "";  // of what was downloaded last
+    #asking = null;
+    #told = wasTold();
+    #header = newElement("header", { id: "page-menu" });
+    #notice = newElement("p", { id: "storage-notice" });
+    #where = newElement("p");
+    #list = newElement("ul", { id: "saved-games" });
+    #answers = newElement("div", { id: "answers" });
+    #question = newElement("div", { id: "question", hidden: true });
+    #all = newButton("Stáhnout všechny", () => this.#downloadAll());
+    #input = newElement("input", { id: "incoming-files", type: "file", multiple: true, hidden: true });
+    #dialog = newElement("dialog", { id: "saved-games-dialog", tabIndex: -1 });
+
+    constructor(engine, savedGames) {
+        this.#savedGames = savedGames;
+        this.#incoming = new IncomingFiles(engine, savedGames, (question, yes, no) => this.#ask(question, yes, no));
+        savedGames.onNews = () => this.#show();
+        this.#build();
+        this.#takeDrops();
+        this.#show();
+    }
+
+    #build() {
+        const open = newButton("Pozice", () => this.#open(), "Uložené pozice");
+        open.id = "open-saved-games";
+        open.addEventListener("mousedown", (event) => event.preventDefault());  // the focus stays in the game
+        this.#notice.setAttribute("role", "status");
+        this.#answers.setAttribute("role", "status");
+        this.#header.append(open, this.#notice);
+        document.body.prepend(this.#header);
+
+        const title = newElement("h2", { id: "saved-games-title", textContent: "Uložené pozice" });
+        this.#dialog.setAttribute("aria-labelledby", title.id);
+        const add = newButton("Přidat ze souborů…", () => this.#input.click());
+        const close = newButton("Zavřít", () => this.#dialog.close());
+        this.#dialog.append(title, this.#where, this.#list, this.#question, this.#answers,
+                            newElement("p", { className: "tools" }, this.#all, add, close), this.#input);
+        this.#dialog.addEventListener("close", () => this.#asking?.(false));
+        this.#input.addEventListener("change", () => {
+            const files = [...this.#input.files];
+            this.#input.value = "";
+            this.#takeIn(files);
+        });
+        document.body.append(this.#dialog);
+    }
+
+    // A file that is dropped anywhere on the page would otherwise take the game's place in the window.
+    #takeDrops() {
+        document.addEventListener("dragover", (event) => {
+            if (event.dataTransfer.types.includes("Files")) event.preventDefault();
+        });
+        document.addEventListener("drop", (event) => {
+            if (event.dataTransfer.files.length === 0) return;
+            event.preventDefault();
+            this.#takeIn([...event.dataTransfer.files]);
+        });
+    }
+
+    #open() {
+        if (this.#dialog.open) return;
+        this.#answers.replaceChildren();
+        this.#show();
+        this.#dialog.showModal();
+    }
+
+    #warning() {
+        const saved = this.#savedGames;
+        if (saved.refused) return "Prohlížeč tu pozice neuchová. Ukládat se dá, ale jen do zavření stránky: pozice si stáhněte.";
+        const onlyHere = saved.names().filter((name) => saved.isOnlyHere(name));
+        if (onlyHere.length > 0) {
+            return `Prohlížeč nedokázal uložit: ${listed(onlyHere)}. Stáhněte si je, než stránku zavřete.`;
+        }
+        if (saved.hasFailed) return "Úložiště prohlížeče selhalo a pozice v něm nemusí vydržet. Pro jistotu si je stáhněte.";
+        return saved.isPrivate ? "Tohle je anonymní okno: pozice zmizí, jakmile ho zavřete. Stáhněte si je." : "";
+    }
+
+    #show() {
+        const warning = this.#warning();
+        const hint = warning === "" && this.#savedGames.promised === false && !this.#told;
+        const text = hint
+            ? "Pozice jsou v tomto prohlížeči, ale neslíbil, že je uchová napořád; z anonymního okna zmizí hned. Stahujte si je."
+            : warning;
+        if (this.#notice.firstChild?.data !== text) {
+            this.#notice.replaceChildren(text);
+            this.#header.classList.toggle("telling", text !== "");
+            if (hint) this.#notice.append(newButton("Rozumím", () => this.#forgetHint()));
+        }
+        this.#where.textContent = warning || "Pozice uchovává tento prohlížeč. Když se jeho data vymažou, zmizí i ony; zálohou je stažený soubor.";
+        const names = this.#savedGames.names();
+        this.#all.disabled = names.length === 0;
+        this.#list.replaceChildren(...names.map((name) => this.#newRow(name)));
+        if (names.length === 0) this.#list.append(newElement("li", { textContent: "Zatím tu žádná není." }));
+    }
+
+    #forgetHint() {
+        this.#told = true;
+        rememberTold();
+        this.#show();
+    }
+
+    #newRow(name) {
+        const shown = name || "(bez názvu)";
+        return newElement("li", {}, newElement("span", { textContent: shown }),
+                          newButton("Stáhnout", () => this.#download(name), `Stáhnout ${shown}`),
+                          newButton("Smazat", () => this.#remove(name), `Smazat ${shown}`));
+    }
+
+    #hand(name, blob) {
+        URL.revokeObjectURL(this.#address);
+        this.#address = URL.createObjectURL(blob);
+        newElement("a", { href: this.#address, download: name }).click();
+    }
+
+    #download(name) {
+        this.#hand(`${name}.TVX`, new Blob([this.#savedGames.bytes(name)], { type: "application/octet-stream" }));
+        this.#savedGames.noteDownload(name);
+    }
+
+    #downloadAll() {
+        const names = this.#savedGames.names();
+        this.#hand(AllFiles, zip(names.map((name) => [`${name}.TVX`, this.#savedGames.bytes(name)])));
+        for (const name of names) this.#savedGames.noteDownload(name);
+    }
+
+    async #remove(name) {
+        if (!await this.#ask(`Opravdu smazat pozici „${name}“?`, "Smazat", "Ponechat")) return;
+        try {
+            await this.#savedGames.remove(name);
+            this.#say(`Pozice „${name}“ je smazaná.`);
+        } catch {
+            this.#say(`Pozici „${name}“ se nepodařilo smazat.`);
+        }
+    }
+
+    async #takeIn(files) {
+        this.#open();
+        this.#answers.replaceChildren();
+        for (const file of files) this.#say(await this.#incoming.take(file));
+        this.#show();
+    }
+
+    #say(sentence) {
+        this.#answers.append(newElement("p", { textContent: sentence }));
+    }
+
+    // One question at a time: a newer one, or closing the dialog, answers the older with no.
+    #ask(question, yes, no) {
+        this.#asking?.(false);
+        return new Promise((resolve) => {
+            this.#asking = (answer) => {
+                this.#asking = null;
+                this.#question.hidden = true;
+                this.#dialog.focus();
+                resolve(answer);
+            };
+            const confirm = newButton(yes, () => this.#asking?.(true));
+            this.#question.replaceChildren(newElement("p", { textContent: question }), confirm, newButton(no, () => this.#asking?.(false)));
+            this.#question.hidden = false;
+            confirm.focus();
+        });
+    }
+}
