@@ -37,6 +37,7 @@ int main() {
     } catch (const ui::GameError& error) {
         windows.BusyPointer = false;
         desktop.ShowMessageBox(error.what(), "Chyba");
+        ui::web::page::SayTheStoryIsDamaged();
         return 1;
     }
     ui::web::page::OfferGame(&game);

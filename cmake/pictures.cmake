@@ -20,13 +20,13 @@ function(orvel_picture name width height)
     set_property(GLOBAL APPEND PROPERTY orvel_pictures ${picture})
 endfunction()
 
-# Draws the icon into the file, `size` pixels wide.
+# Draws the icon into the file, `size` pixels wide; the rest are options for a page around it.
 function(orvel_icon size file)
     cmake_path(GET file PARENT_PATH folder)
     add_custom_command(OUTPUT ${file}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
-        COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${file} art/icon.svg
-        DEPENDS art/icon.svg
+        COMMAND ${RSVG_CONVERT} --width ${size} --height ${size} --output ${file} ${ARGN} art/icon.svg
+        DEPENDS ${PROJECT_SOURCE_DIR}/art/icon.svg
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
         COMMENT "Drawing the icon at ${size}"
         VERBATIM)

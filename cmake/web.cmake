@@ -23,7 +23,7 @@ add_subdirectory(ui/web)
 # A folder for a web server, and the one file.
 install(DIRECTORY ${PROJECT_BINARY_DIR}/site/ DESTINATION orvel-tavoren COMPONENT site)
 install(DIRECTORY LICENSES DESTINATION orvel-tavoren COMPONENT site)
-install(FILES ${PROJECT_BINARY_DIR}/orvel-tavoren.html DESTINATION . COMPONENT file OPTIONAL)
+install(FILES ${PROJECT_BINARY_DIR}/orvel-tavoren.html DESTINATION . COMPONENT file)
 install(DIRECTORY LICENSES DESTINATION . COMPONENT file)
 set(CPACK_GENERATOR ZIP)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

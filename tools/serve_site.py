@@ -9,6 +9,7 @@ import sys
 
 
 class Handler(http.server.SimpleHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"  # one connection for many files
     extensions_map = http.server.SimpleHTTPRequestHandler.extensions_map | {
         ".mjs": "text/javascript",
         ".wasm": "application/wasm",

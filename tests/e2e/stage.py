@@ -20,7 +20,7 @@ def wait_for(what, condition):
         result = condition()
         if result:
             return result
-        time.sleep(0.05)
+        time.sleep(0.005)
     raise AssertionError(f"waited in vain for {what}")
 
 
@@ -39,6 +39,7 @@ def end(process):
 class Stage:
     def __init__(self, program_folder, settings, running):
         self.running = running
+        self.staying = None
         folder = running.enter_context(tempfile.TemporaryDirectory(prefix="orvel-e2e-"))
         self.program_folder = Path(folder) / "game"
         shutil.copytree(program_folder, self.program_folder)
@@ -60,12 +61,18 @@ class Stage:
         answer = subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True, text=True, check=False)
         return answer.returncode == 0 and answer.stdout.strip().isdigit()
 
-    def start_game(self):
-        self.game = start([self.program_folder / "orvel-tavoren"], self.running, env=self.environment)
+    def start_game(self, *through):
+        self.game = start([*through, self.program_folder / "orvel-tavoren"], self.running, env=self.environment)
 
     def xdotool(self, *arguments):
         answer = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True, check=False)
         return answer.stdout.split()
+
+    def hand(self, commands):
+        """Hands a line of commands to an xdotool that stays, and does not wait for it."""
+        if not self.staying:
+            self.staying = start(["xdotool", "-"], self.running, env=self.environment, stdin=subprocess.PIPE, text=True)
+        print(commands, file=self.staying.stdin, flush=True)
 
     def window(self, title):
         """The visible window of that title, once it is there."""
@@ -73,6 +80,12 @@ class Stage:
 
     def shows(self, title):
         return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+
+    def pass_font_warning(self):
+        wait_for("the first window", lambda: self.shows("POZOR!") or self.shows("Orvel Tavoren v1.01"))
+        if self.shows("POZOR!"):  # no Arial here
+            self.xdotool("windowfocus", "--sync", self.window("POZOR!"))
+            self.xdotool("key", "Return")
 
     def exit_code(self):
         return self.game.wait(PATIENCE)

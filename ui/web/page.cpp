@@ -40,6 +40,7 @@ EM_JS(void, page_open_message_box, (const char* text, int textSize, const char* 
 })
 EM_JS(void, page_close_message_box, (), { Module.page.closeMessageBox(); })
 EM_JS(void, page_say_the_end, (), { Module.page.sayTheEnd(); })
+EM_JS(void, page_say_the_story_is_damaged, (), { Module.page.sayTheStoryIsDamaged(); })
 EM_JS(int, page_count_output_lines, (int form, int control), { return Module.page.control(form, control).countLines(); })
 EM_JS(int, page_has_arial, (), { return Module.page.hasArial ? 1 : 0; })
 EM_JS(void, page_offer_game, (const void* game), { Module.page.game = game; })
@@ -141,6 +142,10 @@ void CloseMessageBox() {
 
 void SayTheEnd() {
     page_say_the_end();
+}
+
+void SayTheStoryIsDamaged() {
+    page_say_the_story_is_damaged();
 }
 
 std::size_t CountOutputLines(Place place) {

@@ -45,6 +45,8 @@ void ShowBusyPointer(bool busy);
 void OpenMessageBox(std::string_view text, std::string_view title);
 void CloseMessageBox();
 void SayTheEnd();
+// That there is no game, since its story cannot be read, and what can be done.
+void SayTheStoryIsDamaged();
 
 // Lines as the output box displays them, wrapped ones counted each.
 std::size_t CountOutputLines(Place place);

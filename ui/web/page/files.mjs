@@ -1,22 +1,40 @@
-// Where the page's files come from: beside this script.
+// Where the page's files come from: beside this script. The page in one file has another module of this name.
+import { Trouble } from "./trouble.mjs";
 
 export function addressOf(name) {
     return new URL(name, import.meta.url).href;
 }
 
+function trouble(reason, file, cause) {
+    return new Trouble(reason, { address: addressOf(file), cause });
+}
+
 async function fetchFile(name) {
-    const response = await fetch(addressOf(name));
-    if (!response.ok) throw new Error(`${name}: ${response.status} ${response.statusText}`);
+    const response = await fetch(addressOf(name)).catch((error) => { throw trouble("unreachable", name, error); });
+    if (!response.ok) throw trouble("missing", name, `${response.status} ${response.statusText}`);
     return response;
 }
 
+async function readAll(response, name) {
+    return response.arrayBuffer().catch((error) => { throw trouble("unreachable", name, error); });
+}
+
 export async function fetchBytes(name) {
-    return new Uint8Array(await (await fetchFile(name)).arrayBuffer());
+    return new Uint8Array(await readAll(await fetchFile(name), name));
 }
 
 // Compiles while it arrives, where the server names the right type.
 export async function fetchProgram(name) {
     const response = await fetchFile(name);
-    if (response.headers.get("content-type") === "application/wasm") return WebAssembly.compileStreaming(response);
-    return WebAssembly.compile(await response.arrayBuffer());
+    const streams = response.headers.get("content-type") === "application/wasm";
+    const compiled = streams ? WebAssembly.compileStreaming(response) : WebAssembly.compile(await readAll(response, name));
+    // Browsers have many errors for a program that is not one, and one for a network that went.
+    return compiled.catch((error) => {
+        throw error instanceof Trouble ? error : trouble(error instanceof TypeError ? "unreachable" : "damaged", name, error);
+    });
+}
+
+// From the next visit on the page starts without a network, where the browser allows that.
+export function keepForOffline() {
+    navigator.serviceWorker?.register("worker.js").catch((error) => console.warn(error));
 }

@@ -2,9 +2,11 @@
 import { Announcer } from "./announcer.mjs";
 import { EventQueue } from "./event_queue.mjs";
 import { sayTheEnd } from "./ending.mjs";
+import { addressOf } from "./files.mjs";
 import { FormWidget } from "./form_widget.mjs";
 import { listenToKeys } from "./keyboard.mjs";
 import { MessageBox } from "./message_box.mjs";
+import { Trouble, showTrouble } from "./trouble.mjs";
 
 export class Page {
     #stage;
@@ -103,5 +105,9 @@ export class Page {
         this.#announce();
         this.game = 0;
         sayTheEnd();
+    }
+
+    sayTheStoryIsDamaged() {
+        showTrouble(new Trouble("damaged", { address: addressOf("texs.dat") }));
     }
 }

@@ -1,27 +1,49 @@
 // Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
 import { EventKind } from "./event_queue.mjs";
-import { fetchBytes, fetchProgram } from "./files.mjs";
+import { addressOf, fetchBytes, fetchProgram, keepForOffline } from "./files.mjs";
 import { Page } from "./page.mjs";
 import { PageMenu } from "./page_menu.mjs";
 import { SavedGames } from "./saved_games.mjs";
 import { loadTextFace } from "./text_face.mjs";
+import { Trouble, showTrouble, watchProgram } from "./trouble.mjs";
 import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
-function note(text) {
-    document.getElementById("notice").textContent = text;
+function importEngine() {
+    return import("./engine.mjs").catch((cause) => {
+        const reason = cause instanceof SyntaxError ? "damaged" : "missing";
+        throw new Trouble(reason, { address: addressOf("./engine.mjs"), cause });
+    });
+}
+
+// The title asks for Enter before the game can hear it.
+let enterPressed = false;
+function noteEnter(event) {
+    enterPressed ||= event.key === "Enter";
+}
+addEventListener("keydown", noteEnter);
+
+function hearEnter() {
+    removeEventListener("keydown", noteEnter);
+    if (enterPressed) document.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter" }));
+}
+
+// The main window shows the same picture by the next frame.
+function takeTitleAway() {
+    requestAnimationFrame(() => setTimeout(() => document.getElementById("title")?.remove()));
 }
 
 async function start() {
+    if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
     const [{ default: createEngine }, program, story, hasArial] =
-        await Promise.all([import("./engine.mjs"), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
+        await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
     const page = new Page(document.getElementById("stage"), hasArial);
     const engine = await createEngine({
         page,
         noInitialRun: true,
         instantiateWasm(imports, done) {
-            WebAssembly.instantiate(program, imports).then((instance) => done(instance, program));
+            WebAssembly.instantiate(program, imports).then((instance) => done(instance, program), showTrouble);
             return {};
         },
     });
@@ -31,11 +53,13 @@ async function start() {
     savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
     new PageMenu(engine, savedGames);
     askBeforeLeaving(engine, savedGames);
-    note("");
+    document.getElementById("notice").textContent = "";
+    watchProgram();
     engine.callMain([]);
+    takeTitleAway();
+    hearEnter();
+    keepForOffline();
 }
 
-start().catch((error) => {
-    console.error(error);
-    note("Hru se nepodařilo načíst. Zkuste prosím stránku otevřít znovu.");
-});
+dispatchEvent(new Event("starting"));
+start().catch(showTrouble);

@@ -1,0 +1,249 @@
+// Measures the page in Chromium beside one that shows one line of text, in one run.
+//
+//     npm ci --prefix tests/web && node bench/web/page.mjs [SITE]
+//
+// Cold starts of both in turns, the answer to a click and to Enter with few lines in the box and with many, what a first visit fetches, the
+// memory after the whole winning game, and what goes on at idle. The figures are medians.
+import { readFileSync, statSync } from "node:fs";
+import { mkdtemp, rm } from "node:fs/promises";
+import http from "node:http";
+import { createRequire } from "node:module";
+import { tmpdir } from "node:os";
+import path from "node:path";
+import { fileURLToPath } from "node:url";
+import { gzipSync } from "node:zlib";
+
+const Root = fileURLToPath(new URL("../../", import.meta.url));
+const puppeteer = createRequire(`${Root}tests/web/`)("puppeteer-core").default;
+const Site = path.resolve(process.argv[2] ?? `${Root}build/web/site`);
+const SingleFile = path.join(Site, "../orvel-tavoren.html");
+const Bare = `${Root}bench/web/bare`;
+const Starts = 15;
+const Clicks = 20;
+const Lines = [10, 1990];
+const MiB = 1024 * 1024;
+const Types = { ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".wasm": "application/wasm" };
+const Flags = ["--headless=new", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+    "--disable-component-update", "--disable-sync"];
+
+const pause = (milliseconds) => new Promise((over) => { setTimeout(over, milliseconds); });
+const median = (figures) => figures.toSorted((a, b) => a - b)[figures.length >> 1];
+const row = (...cells) => console.log(`| ${cells.join(" | ")} |`);
+
+// Serves the folder; `fetched` takes the files that were asked for.
+async function serve(folder) {
+    const fetched = new Set();
+    const server = http.createServer((request, response) => {
+        const file = path.join(folder, request.url.endsWith("/") ? `${request.url}index.html` : request.url);
+        const found = statSync(file, { throwIfNoEntry: false })?.isFile();
+        if (found) fetched.add(file);
+        response.writeHead(found ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
+        response.end(found ? readFileSync(file) : "");
+    });
+    await new Promise((listening) => { server.listen(0, "127.0.0.1", listening); });
+    return { server, fetched, address: `http://127.0.0.1:${server.address().port}/` };
+}
+
+// Runs in the page before its scripts.
+function notePaints() {
+    window.paints = [];
+    const note = (list) => paints.push(...list.getEntries().map(({ startTime, url }) => ({ time: startTime, url: url ?? "" })));
+    for (const type of ["paint", "largest-contentful-paint"]) new PerformanceObserver(note).observe({ type, buffered: true });
+}
+
+function noteReadiness() {
+    addEventListener("DOMContentLoaded", () => {
+        const form = () => document.querySelector("#Form1:not([hidden])");
+        const observer = new MutationObserver(() => {
+            if (!form()) return;
+            window.readyTime = performance.now();
+            observer.disconnect();
+        });
+        observer.observe(document.body, { subtree: true, childList: true, attributes: true });
+    });
+}
+
+// A tab of a browser that has nothing of an earlier one.
+async function openCold(browser, address, isGame) {
+    const context = await browser.createBrowserContext();
+    const page = await context.newPage();
+    await page.setViewport({ width: 1280, height: 800 });
+    await page.evaluateOnNewDocument(notePaints);
+    await page.evaluateOnNewDocument(noteReadiness);
+    await page.goto(address);
+    if (isGame) await page.waitForSelector("#Form1:not([hidden])");
+    await pause(300);
+    return { page, context };
+}
+
+async function measureStart(browser, address, picture) {
+    const { page, context } = await openCold(browser, address, picture !== "");
+    const { paints, readyTime } = await page.evaluate(() => ({ paints: window.paints, readyTime: window.readyTime }));
+    await context.close();
+    return { painted: Math.min(...paints.filter(({ url }) => url.endsWith(picture)).map(({ time }) => time)), ready: readyTime };
+}
+
+async function measureStarts(browser, game, bare) {
+    const painted = { game: [], bare: [] };
+    const ready = [];
+    for (let start = 0; start < Starts; ++start) {
+        const ours = await measureStart(browser, game, "gui1.webp");
+        painted.game.push(ours.painted);
+        ready.push(ours.ready);
+        painted.bare.push((await measureStart(browser, bare, "")).painted);
+    }
+    const line = median(painted.bare);
+    const cells = (figures) => [`${median(figures).toFixed(0)} ms`, `${line.toFixed(0)} ms`, (median(figures) / line).toFixed(2)];
+    row("navigation to the title painted", ...cells(painted.game));
+    row("navigation to a game that hears keys", ...cells(ready));
+}
+
+async function rowOf(page, list, entry) {
+    const rows = await page.$$(`[id="${list}"] [role=option]`);
+    const texts = await page.$$eval(`[id="${list}"] [role=option]`, (options) => options.map((option) => option.textContent));
+    const found = rows[texts.indexOf(entry)] ?? rows[Number(entry)];
+    if (found === undefined) throw new Error(`${list} has no entry ${entry}`);
+    return found;
+}
+
+async function clickEntry(page, list, entry) {
+    const target = await rowOf(page, list, entry);
+    await target.evaluate((element) => element.scrollIntoView({ block: "nearest" }));
+    const { x, y, height } = await target.boundingBox();
+    await page.mouse.click(x + 9, y + height / 2);
+}
+
+// Plays a script of the headless player with mouse and keys; what only looks on is left out.
+async function play(page, script) {
+    for (const line of script.split("\n")) {
+        const [what, target, ...rest] = line.split(" ");
+        if (what === "click" && rest.length > 0) await clickEntry(page, target, rest.join(" "));
+        else if (what === "click") await page.click(`[id="${target}"]`);
+        else if (what === "key") await page.keyboard.press(rest[0]);
+        else if (what === "type") await page.keyboard.type(rest.join(" "));
+        else if (what === "random") await page.evaluate((drawn) => { Math.random = () => drawn.shift() ?? 0.5; }, [target, ...rest].map(Number));
+    }
+}
+
+// Runs in the page: how long the task of an event takes with the layout that it needs. An answer that comes after that
+// task is never noted, and missed.
+function timeEvents() {
+    window.times = [];
+    const shown = () => document.querySelectorAll('[id="Form1.Text1"] p').length + document.querySelector('[id="Form1.Text2"] input').value;
+    const time = () => {
+        const before = shown();
+        const began = performance.now();
+        const { port1, port2 } = new MessageChannel();
+        port1.onmessage = () => {
+            document.body.getBoundingClientRect();
+            const ended = performance.now();
+            if (shown() !== before) times.push(ended - began);
+        };
+        port2.postMessage(null);
+    };
+    for (const type of ["click", "keydown"]) addEventListener(type, time, true);
+}
+
+async function timed(page, act) {
+    await page.evaluate(() => { window.times = []; });
+    await act();
+    await page.waitForFunction(() => times.length > 0);
+    return page.evaluate(() => times[0]);
+}
+
+const countLines = (page) => page.$$eval('[id="Form1.Text1"] p', (lines) => lines.length);
+// Runs in the page, which fills its box faster than a hand does.
+async function examineTerminal() {
+    const nextTask = () => new Promise((next) => { setTimeout(next); });
+    const options = (list) => [...document.getElementById(list).querySelectorAll("[role=option]")];
+    options("Form1.List2(0)").find((option) => option.textContent === "Prozkoumej").click();
+    await nextTask();
+    options("Form1.List2(1)")[0].click();
+    await nextTask();
+    document.activeElement.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter", bubbles: true, cancelable: true }));
+    await nextTask();
+}
+
+async function measureAnswers(browser, address) {
+    const { page, context } = await openCold(browser, address, true);
+    await page.keyboard.press("Enter");
+    await page.keyboard.press("Enter");
+    await page.evaluate(timeEvents);
+    const answers = { click: [], enter: [] };
+    for (const lines of Lines) {
+        while (await countLines(page) < lines) await page.evaluate(examineTerminal);
+        const click = [];
+        const enter = [];
+        for (let turn = 0; turn < Clicks; ++turn) {
+            click.push(await timed(page, () => clickEntry(page, "Form1.List2(0)", "Prozkoumej")));
+            await clickEntry(page, "Form1.List2(1)", "0");
+            enter.push(await timed(page, () => page.keyboard.press("Enter")));
+        }
+        answers.click.push(median(click));
+        answers.enter.push(median(enter));
+    }
+    await context.close();
+    const cells = (figures) => [...figures.map((figure) => `${figure.toFixed(2)} ms`), (figures[1] / figures[0]).toFixed(2)];
+    row("click on a verb to the echo", ...cells(answers.click));
+    row("Enter to the reply", ...cells(answers.enter));
+}
+
+async function measureMemory(browser, address) {
+    const { page, context } = await openCold(browser, address, true);
+    await play(page, readFileSync(`${Root}tests/walkthroughs/winning_game.replay`, "utf8"));
+    await page.waitForFunction(() => document.getElementById("notice").textContent.startsWith("Hra skončila."));
+    const client = await page.createCDPSession();
+    await client.send("HeapProfiler.collectGarbage");
+    const { JSHeapUsedSize } = await page.metrics();
+    const memories = await page.queryObjects(await page.evaluateHandle(() => WebAssembly.Memory.prototype));
+    const program = await memories.evaluate((found) => found.reduce((bytes, memory) => bytes + memory.buffer.byteLength, 0));
+    await context.close();
+    const cell = (bytes) => `${(bytes / MiB).toFixed(1)} MiB`;
+    row("heaps of scripts and program after the winning game", `${cell(JSHeapUsedSize)} + ${cell(program)}`, cell(JSHeapUsedSize + program));
+}
+
+async function measureIdle(browser, address) {
+    const { page, context } = await openCold(browser, address, true);
+    await page.keyboard.press("Enter");
+    await page.keyboard.press("Enter");
+    await pause(1000);
+    await page.evaluate(() => {
+        window.asked = 0;
+        for (const name of ["setTimeout", "setInterval", "requestAnimationFrame", "requestIdleCallback"]) {
+            window[name] = () => { ++asked; };
+        }
+    });
+    const before = await page.metrics();
+    await pause(5000);
+    const after = await page.metrics();
+    row("timers and frames asked for in 5 s of idle", await page.evaluate(() => asked));
+    row("time in scripts in 5 s of idle", `${((after.ScriptDuration - before.ScriptDuration) * 1000).toFixed(2)} ms`);
+    await context.close();
+}
+
+function reportSizes(fetched) {
+    const packed = (files) => files.reduce((bytes, file) => bytes + gzipSync(readFileSync(file), { level: 9 }).length, 0);
+    const cell = (bytes) => `${(bytes / 1024).toFixed(0)} KiB`;
+    const files = [...fetched];
+    row("first visit, gzipped", cell(packed(files)), `${files.length} files`);
+    row("of which program and scripts", cell(packed(files.filter((file) => /\.(js|wasm)$/.test(file)))));
+    row("the one file", cell(statSync(SingleFile).size));
+}
+
+const profile = await mkdtemp(path.join(tmpdir(), "orvel-bench-"));
+const browser = await puppeteer.launch({ executablePath: "/usr/bin/chromium", userDataDir: profile, args: Flags, ignoreDefaultArgs: ["--hide-scrollbars"] });
+const [game, bare] = await Promise.all([serve(Site), serve(Bare)]);
+try {
+    const { page, context } = await openCold(browser, game.address, true);
+    await page.evaluate(async () => { await navigator.serviceWorker.ready; });
+    await context.close();
+    reportSizes(game.fetched);
+    await measureStarts(browser, game.address, bare.address);
+    await measureAnswers(browser, game.address);
+    await measureMemory(browser, game.address);
+    await measureIdle(browser, game.address);
+} finally {
+    await browser.close();
+    for (const { server } of [game, bare]) server.closeAllConnections(), server.close();
+    await rm(profile, { recursive: true, force: true });
+}

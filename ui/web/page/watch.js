@@ -1,0 +1,36 @@
+// Says in place of the game why there is none. A script for browsers of any age, so that those too old for the game are told as well.
+(function () {
+    var started = false;
+
+    // The reasons are those that index.html has a sentence for.
+    function show(reason, address) {
+        var sentences = document.querySelectorAll("#trouble > p[id]");
+        var names = document.querySelectorAll("#trouble .file");
+        var again = document.getElementById("try-again");
+        for (var i = 0; i < sentences.length; ++i) sentences[i].hidden = sentences[i].id !== "trouble-" + reason;
+        for (var j = 0; j < names.length; ++j) names[j].textContent = (address || "").split("/").pop();
+        again.hidden = reason === "old" || reason === "folder";
+        again.onclick = function () {
+            function reload() { location.reload(); }
+            // What the browser keeps of a damaged file would come back.
+            if (address) fetch(address, { cache: "reload" }).then(reload, reload);
+            else reload();
+        };
+        document.getElementById("notice").textContent = "";
+        document.getElementById("stage").hidden = true;
+        document.getElementById("trouble").hidden = false;
+        if (!again.hidden) again.focus();
+    }
+
+    function isOld() {
+        return !("noModule" in document.createElement("script")) || !("inert" in document.body) || !window.CSS || !CSS.registerProperty;
+    }
+
+    window.addEventListener("starting", function () { started = true; });
+    window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
+    // By then the scripts that could be loaded have run.
+    window.addEventListener("load", function () {
+        if (isOld()) show("old");
+        else if (!started) show(location.protocol === "file:" && document.getElementById("trouble-folder") ? "folder" : "incomplete");
+    });
+})();
