@@ -6,6 +6,7 @@ import { after, before, test } from "node:test";
 import { Browser, serve } from "./browser.mjs";
 import { Player } from "./player.mjs";
 
+const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
 let server, browser;
 
 before(async () => {
@@ -21,7 +22,7 @@ after(async () => {
 const shown = async (player, form, control) => (await player.look()).forms[form].controls[control];
 const lastLine = async (player) => (await shown(player, "Form1", "Text1")).text.split("\r\n").at(-1);
 
-test("by keyboard alone, from the title into the terminal and out", async () => {
+test("by keyboard alone, from the title into the terminal and out", patience, async () => {
     const tab = await browser.open(server.address);
     const player = new Player(tab);
     const marked = () => tab.evaluate(() => document.getElementById(document.activeElement.getAttribute("aria-activedescendant"))?.textContent);
@@ -71,7 +72,7 @@ test("by keyboard alone, from the title into the terminal and out", async () => 
 });
 
 for (const [held, width, height] of [["upright", 390, 844], ["sideways", 844, 390]]) {
-    test(`by finger on a phone held ${held}`, async () => {
+    test(`by finger on a phone held ${held}`, patience, async () => {
         const tab = await browser.open(server.address, { width, height, touch: true });
         const player = new Player(tab);
         for (let page = 0; page < 2; ++page) await player.click("Form1.Label1");
@@ -107,7 +108,7 @@ function findSmall() {
     return found;
 }
 
-test("axe finds nothing in any window", async () => {
+test("axe finds nothing in any window", patience, async () => {
     const tab = await browser.open(server.address);
     const player = new Player(tab);
     const axe = await readFile(new URL("node_modules/axe-core/axe.min.js", import.meta.url), "utf8");
