@@ -1,7 +1,7 @@
 // Opens the page in a real browser, from a plain server on the loopback, in a sub-folder and with a fresh profile. What the page does
 // that it never may is kept as complaints: errors, requests to other hosts, breaches of its own policy.
 import { createReadStream } from "node:fs";
-import { mkdir, mkdtemp, rm, stat, writeFile } from "node:fs/promises";
+import { mkdir, mkdtemp, readFile, rm, stat, writeFile } from "node:fs/promises";
 import http from "node:http";
 import { tmpdir } from "node:os";
 import path from "node:path";
@@ -55,6 +55,13 @@ async function launch(kind, profile, downloads, keepsNothing) {
     });
 }
 
+// What keeps people out of the page as it now stands, in sentences.
+export async function findBarriers(tab) {
+    await tab.evaluate(await readFile(new URL("node_modules/axe-core/axe.min.js", import.meta.url), "utf8"));
+    const { violations } = await tab.evaluate(() => window.axe.run());
+    return violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map(({ target }) => target).join(" ")}`);
+}
+
 // A browser that has nothing of an earlier one.
 export class Browser {
     complaints = [];
@@ -77,7 +84,9 @@ export class Browser {
         await tab.setViewport({ width, height, hasTouch: touch, isMobile: touch });
         this.#watch(tab, new URL(address).origin);
         await tab.evaluateOnNewDocument(() => {
-            document.addEventListener("securitypolicyviolation", (breach) => console.error(`policy: ${breach.violatedDirective} ${breach.blockedURI}`));
+            document.addEventListener("securitypolicyviolation", ({ violatedDirective, blockedURI }) => {
+                console.error(`policy: ${violatedDirective} ${blockedURI}`);
+            });
         });
         await tab.evaluateOnNewDocument(prepare);
         await tab.goto(address);
@@ -86,7 +95,9 @@ export class Browser {
     }
 
     #watch(tab, origin) {
-        tab.on("console", (message) => ["error", "assert"].includes(message.type()) && this.complaints.push(`console: ${message.text()} ${message.location().url ?? ""}`));
+        tab.on("console", (message) => {
+            if (message.type() === "error") this.complaints.push(`console: ${message.text()} ${message.location().url ?? ""}`);
+        });
         tab.on("pageerror", (error) => this.complaints.push(`uncaught: ${error.stack}`));
         tab.on("request", (request) => {
             const { protocol, origin: asked } = new URL(request.url());
