@@ -93,6 +93,8 @@ def main():
             player.play(event)
     if not player.ended:
         sys.exit("the game did not end")
+    if player.process.wait() != 0:
+        sys.exit("the player complains")
     told = "\n".join(player.transcript).lstrip("\n") + "\n"
     transcript = script.with_suffix(".txt")
     if "--update" in sys.argv:

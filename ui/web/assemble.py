@@ -20,7 +20,7 @@ import sys
 
 STAYS = re.compile(r"index\.html|worker\.js|manifest\.webmanifest|icon-.*\.png")
 # Fetched when a player installs the page; it starts without them.
-NOT_KEPT = re.compile(r"worker\.js|icon-(192|512|maskable-512)\.png")
+NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")  # the browser looks at the smaller icon on every visit
 FORMATS = {".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2"}
 
 

@@ -1,0 +1,113 @@
+// Opens the page in a real browser, from a plain server on the loopback, in a sub-folder and with a fresh profile. What the page does
+// that it never may is kept as complaints: errors, requests to other hosts, breaches of its own policy.
+import { createReadStream } from "node:fs";
+import { mkdir, mkdtemp, readFile, rm, stat, writeFile } from "node:fs/promises";
+import http from "node:http";
+import { tmpdir } from "node:os";
+import path from "node:path";
+import puppeteer from "puppeteer-core";
+
+const Folder = "/hry/orvel/";
+const Types = { ".html": "text/html", ".js": "text/javascript", ".mjs": "text/javascript", ".css": "text/css", ".png": "image/png" };
+const Quiet = ["--headless=new", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+    "--disable-component-update", "--disable-sync"];
+
+// A plain web server. Stopped, it leaves as little behind as a network that is cut.
+export async function serve(site) {
+    const server = http.createServer(async (request, response) => {
+        const { pathname } = new URL(request.url, "http://localhost");
+        const file = path.join(site, decodeURI(pathname.slice(Folder.length)), pathname.endsWith("/") ? "index.html" : "");
+        const found = pathname.startsWith(Folder) && await stat(file).then((status) => status.isFile(), () => false);
+        response.writeHead(found ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
+        if (found) createReadStream(file).pipe(response);
+        else response.end();
+    });
+    await new Promise((listening) => server.listen(0, "127.0.0.1", listening));
+    return {
+        address: `http://127.0.0.1:${server.address().port}${Folder}`,
+        async stop() {
+            server.closeAllConnections();
+            await new Promise((closed) => server.close(closed));
+        },
+    };
+}
+
+async function launch(kind, profile, downloads, keepsNothing) {
+    if (kind === "firefox") {
+        return puppeteer.launch({
+            browser: "firefox",
+            executablePath: "/usr/bin/firefox-esr",
+            userDataDir: profile,
+            extraPrefsFirefox: { "browser.download.folderList": 2, "browser.download.dir": downloads },
+        });
+    }
+    if (keepsNothing) {
+        const refusal = { profile: { default_content_setting_values: { cookies: 2 } } };
+        await mkdir(path.join(profile, "Default"));
+        await writeFile(path.join(profile, "Default", "Preferences"), JSON.stringify(refusal));
+    }
+    return puppeteer.launch({
+        executablePath: "/usr/bin/chromium",
+        userDataDir: profile,
+        args: process.getuid() === 0 ? [...Quiet, "--no-sandbox"] : Quiet,  // its sandbox refuses the administrator
+        ignoreDefaultArgs: ["--hide-scrollbars"],
+        downloadBehavior: { policy: "allow", downloadPath: downloads },
+    });
+}
+
+// What keeps people out of the page as it now stands, in sentences.
+export async function findBarriers(tab) {
+    await tab.evaluate(await readFile(new URL("node_modules/axe-core/axe.min.js", import.meta.url), "utf8"));
+    const { violations } = await tab.evaluate(() => window.axe.run());
+    return violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map(({ target }) => target).join(" ")}`);
+}
+
+// A browser that has nothing of an earlier one.
+export class Browser {
+    complaints = [];
+    #browser;
+    #profile;
+
+    // One that keeps nothing is set to refuse pages all storage (Chromium alone).
+    static async start({ keepsNothing = false } = {}) {
+        const started = new Browser();
+        started.#profile = await mkdtemp(path.join(tmpdir(), "orvel-page-"));
+        started.downloads = path.join(started.#profile, "downloads");
+        await mkdir(started.downloads);
+        started.#browser = await launch(process.env.ORVEL_BROWSER, started.#profile, started.downloads, keepsNothing);
+        return started;
+    }
+
+    // A tab that shows the page; `prepare` runs in it before any script of the page.
+    async open(address, { width = 1280, height = 800, touch = false, prepare = () => {} } = {}) {
+        const tab = await this.#browser.newPage();
+        await tab.setViewport({ width, height, hasTouch: touch, isMobile: touch });
+        this.#watch(tab, new URL(address).origin);
+        await tab.evaluateOnNewDocument(() => {
+            document.addEventListener("securitypolicyviolation", ({ violatedDirective, blockedURI }) => {
+                console.error(`policy: ${violatedDirective} ${blockedURI}`);
+            });
+        });
+        await tab.evaluateOnNewDocument(prepare);
+        await tab.goto(address);
+        await tab.waitForSelector("#Form1:not([hidden])");
+        return tab;
+    }
+
+    #watch(tab, origin) {
+        tab.on("console", (message) => {
+            if (message.type() === "error") this.complaints.push(`console: ${message.text()} ${message.location().url ?? ""}`);
+        });
+        tab.on("pageerror", (error) => this.complaints.push(`uncaught: ${error.stack}`));
+        tab.on("request", (request) => {
+            const { protocol, origin: asked } = new URL(request.url());
+            if (protocol.startsWith("http") && asked !== origin) this.complaints.push(`asked another host: ${request.url()}`);
+        });
+        tab.on("response", (response) => response.status() >= 400 && this.complaints.push(`${response.status()}: ${response.url()}`));
+    }
+
+    async stop() {
+        await this.#browser.close();
+        await rm(this.#profile, { recursive: true, force: true, maxRetries: 5 });
+    }
+}

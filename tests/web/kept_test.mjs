@@ -1,0 +1,203 @@
+// What the browser keeps: saved games, which the headless player takes and gives, and the page itself for when there is no network.
+//     kept_test.mjs SITE NATIVE_REPLAY PROGRAM_FOLDER
+import assert from "node:assert/strict";
+import { spawnSync } from "node:child_process";
+import { cp, mkdir, mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
+import { tmpdir } from "node:os";
+import path from "node:path";
+import { after, before, test } from "node:test";
+import { Browser, findBarriers, serve } from "./browser.mjs";
+import { Player } from "./player.mjs";
+
+const [site, replay, programFolder] = process.argv.slice(2);
+const WinningGame = new URL("../walkthroughs/winning_game.replay", import.meta.url);
+const Beginning = ["key Form1.Text2 Enter", "key Form1.Text2 Enter"];
+const save = (name) => ["click Form1.List2(0) Ulož pozici", "key Form1.Text2 Enter", `type Form4.Text1 ${name}`, "key Form4.Text1 Enter"];
+const load = (name) => ["click Form1.List2(0) Nahraj pozici", ...save(name).slice(1)];
+const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
+// The other one's driver has neither its questions nor its settings.
+const inFirefox = process.env.ORVEL_BROWSER === "firefox";
+const chromiumAlone = { ...patience, skip: inFirefox };
+let server, browser, folder;
+
+before(async () => {
+    server = await serve(site);
+    browser = await Browser.start();
+    folder = await mkdtemp(path.join(tmpdir(), "orvel-native-"));
+    await mkdir(path.join(folder, "data", "saves"), { recursive: true });
+    await cp(path.join(programFolder, "data", "texs.dat"), path.join(folder, "data", "texs.dat"));
+});
+after(async () => {
+    await browser.stop();
+    await server.stop();
+    await rm(folder, { recursive: true });
+    assert.deepEqual(browser.complaints, []);
+});
+
+// The last of what the headless player shows.
+function playNatively(events) {
+    const { stdout } = spawnSync(replay, [folder], { input: [...events, "show", ""].join("\n"), encoding: "utf8" });
+    return JSON.parse(stdout.trim().split("\n").at(-1));
+}
+
+const nativeSave = (name) => path.join(folder, "data", "saves", `${name}.TVX`);
+
+async function saveAs(player, name) {
+    await player.click("Form1.List2(0)", "Ulož pozici");
+    await player.keys("Enter");
+    await player.click("Form4.Text1");
+    await player.type("Form4.Text1", name);
+    await player.key("Form4.Text1", "Enter");
+}
+
+async function loadNamed(player, name) {
+    await player.click("Form1.List2(0)", "Nahraj pozici");
+    await player.keys("Enter");
+    await player.click("Form4.List1", name);
+    await player.key("Form4.List1", "Enter");
+}
+
+// The room that a loaded game is told to be in, and what is carried.
+function situation({ forms: { Form1: { controls } } }) {
+    return { room: controls.Text1.text.split("\r\n").slice(-3), carried: controls.List1.entries };
+}
+
+async function press(tab, words) {
+    const button = await tab.evaluateHandle((label) => [...document.querySelectorAll("button")].find((each) =>
+        [each.textContent, each.ariaLabel].includes(label)), words);
+    await button.click();
+}
+
+async function downloaded(tab, name, by = browser) {
+    await press(tab, "Uložené pozice");
+    await press(tab, `Stáhnout ${name}`);
+    await tab.keyboard.press("Escape");
+    const file = path.join(by.downloads, `${name}.TVX`);
+    for (let tries = 0; tries < 100; ++tries) {
+        const bytes = await readFile(file).catch(() => Buffer.of());
+        if (bytes.length > 0) return bytes;
+        await new Promise((later) => setTimeout(later, 50));
+    }
+    throw new Error(`${file} never came`);
+}
+
+test("a game is saved, found again by the next visit, and told on by the headless player", patience, async () => {
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    await player.click("Form1.List2(0)", "Vezmi");
+    await player.click("Form1.List2(1)", "nářadí");
+    await player.keys("Enter");
+    await player.click("Form1.List2(0)", "Použij");
+    await player.click("Form1.List2(1)", "terminál");
+    await player.click("Form1.List2(2)", "sebe");
+    await player.click("Form1.Label1");
+    await player.type("Form2.Text2", "mj-perolax");
+    await player.key("Form2.Text2", "Enter");
+    assert.match((await player.look()).forms.Form2.controls.Text1.text, /Dobrý den, pane Selagu Hemafo!/);
+    await player.type("Form2.Text2", "exit");
+    await player.click("Form2.Label2");
+    await saveAs(player, "žlutá");
+    await writeFile(nativeSave("žlutá"), await downloaded(tab, "žlutá"));
+    const loaded = playNatively([...Beginning, ...load("žlutá")]);
+    assert.deepEqual(loaded.forms.Form1.controls.List1.entries, ["nářadí"]);
+
+    await tab.reload();
+    await tab.waitForSelector("#Form1:not([hidden])");
+    await player.keys("Enter", "Enter");
+    await loadNamed(player, "žlutá");
+    assert.deepEqual(situation(await player.look()), situation(loaded));
+    await tab.close();
+});
+
+test("a game that the headless player saved is taken in, a damaged one is not", patience, async () => {
+    const events = (await readFile(WinningGame, "utf8")).split("\n");
+    const atKeypad = events.findIndex((event) => event.startsWith("type Form3."));
+    const before = events.lastIndexOf("key Form1.Text2 Enter", events.lastIndexOf("key Form1.Text2 Enter", atKeypad) - 1) + 1;
+    playNatively([...events.slice(0, before), ...save("u číselníku")]);
+    const loaded = playNatively([...Beginning, ...load("u číselníku")]);
+    const bytes = await readFile(nativeSave("u číselníku"));
+    await writeFile(nativeSave("půlka"), bytes.subarray(0, bytes.length / 2));
+
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    await press(tab, "Uložené pozice");
+    const input = await tab.$("#incoming-files");
+    const answers = async (file) => {
+        await input.uploadFile(nativeSave(file));
+        await tab.waitForFunction((name) => document.getElementById("answers").textContent.includes(name), {}, file);
+        return tab.$eval("#answers", (element) => element.textContent);
+    };
+    assert.match(await answers("půlka"), /poškozený/);
+    assert.match(await answers("u číselníku"), /„u číselníku“ je přidaná/);
+    if (!inFirefox) assert.deepEqual(await findBarriers(tab), []);
+    await player.keys("Escape");
+    await loadNamed(player, "u číselníku");
+    assert.deepEqual(situation(await player.look()), situation(loaded));
+
+    await player.click("Form1.List2(0)", "Použij");
+    await player.click("Form1.List2(1)", "číselník");
+    await player.click("Form1.List2(2)", "sebe");
+    await player.keys("Enter");
+    assert.equal((await player.look()).modal, "Form3");
+    if (!inFirefox) assert.deepEqual(await findBarriers(tab), []);
+    await tab.close();
+});
+
+test("two pages do not lose each other's games, and leaving with unsaved steps asks", chromiumAlone, async () => {
+    const tabs = [await browser.open(server.address), await browser.open(server.address)];
+    for (const [number, tab] of tabs.entries()) {
+        const player = new Player(tab);
+        await tab.bringToFront();
+        await player.keys("Enter", "Enter");
+        await saveAs(player, `stránka ${number}`);
+    }
+    const [tab, other] = tabs;
+    await other.close();
+    await tab.bringToFront();
+    const player = new Player(tab);
+    await player.click("Form1.List2(0)", "Nahraj pozici");
+    await player.keys("Enter");
+    const { entries } = (await player.look()).forms.Form4.controls.List1;
+    assert.ok(entries.includes("stránka 0") && entries.includes("stránka 1"), entries.join());
+    await player.click("Form4.List1", "stránka 1");
+    await player.key("Form4.List1", "Enter");
+    await player.click("Form1.List2(0)", "Otevři");
+    await player.click("Form1.List2(1)", "skříň");
+    await player.keys("Enter");
+    const answered = new Promise((answer) => {
+        tab.once("dialog", (dialog) => {
+            answer(dialog.type());
+            dialog.accept().catch(() => {});  // the tab may be gone before it says so
+        });
+        tab.once("close", () => answer("closed at once"));
+    });
+    await tab.close({ runBeforeUnload: true });
+    assert.equal(await answered, "beforeunload");
+});
+
+test("where nothing can be kept the player hears of it first, and can still carry his games away", chromiumAlone, async () => {
+    const forgetful = await Browser.start({ keepsNothing: true });
+    const tab = await forgetful.open(server.address);
+    const player = new Player(tab);
+    assert.match(await tab.$eval("#storage-notice", (notice) => notice.textContent), /neuchová/);
+    await player.keys("Enter", "Enter");
+    await saveAs(player, "jen tady");
+    assert.equal((await downloaded(tab, "jen tady", forgetful)).length > 0, true);
+    await forgetful.stop();
+    assert.deepEqual(forgetful.complaints, []);
+});
+
+test("the second visit needs no network", patience, async () => {
+    const visited = await serve(site);
+    const first = await browser.open(visited.address);
+    await first.evaluate(() => navigator.serviceWorker.ready.then(() => {}));
+    await first.close();
+    await visited.stop();
+    const tab = await browser.open(visited.address);
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    assert.match((await player.look()).forms.Form1.controls.Text1.text, /kajuta/);
+    await tab.close();
+});

@@ -1,0 +1,154 @@
+// The page under a player's hands: keyboard alone, a finger on a phone, and what it offers to those who do not see it.
+//     page_test.mjs SITE
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { Browser, findBarriers, serve } from "./browser.mjs";
+import { Player } from "./player.mjs";
+
+const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
+let server, browser;
+
+before(async () => {
+    server = await serve(process.argv[2]);
+    browser = await Browser.start();
+});
+after(async () => {
+    await browser.stop();
+    await server.stop();
+    assert.deepEqual(browser.complaints, []);
+});
+
+const shown = async (player, form, control) => (await player.look()).forms[form].controls[control];
+const told = async (player) => (await shown(player, "Form1", "Text1")).text.split("\r\n").filter((line) => line !== "");
+
+test("by keyboard alone, from the title into the terminal and out", patience, async () => {
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    const marked = () => tab.evaluate(() => {
+        const mark = document.activeElement.getAttribute("aria-activedescendant");
+        return document.getElementById(mark)?.textContent;
+    });
+    const tabTo = async (control) => {
+        for (let presses = 0; await player.focus() !== control; ++presses) {
+            assert.ok(presses < 10, `Tab never comes to ${control}`);
+            await player.keys("Tab");
+        }
+    };
+    const choose = async (list, entry) => {
+        await tabTo(list);
+        await player.keys("Home");
+        for (let presses = 0; await marked() !== entry; ++presses) {
+            assert.ok(presses < 20, `the arrows never come to ${entry} in ${list}`);
+            await player.keys("ArrowDown");
+        }
+        await player.keys("Enter");
+    };
+    const proceed = async () => {
+        await tabTo("Form1.Label1");
+        await player.keys("Space");
+    };
+
+    await player.keys("Enter", "Enter");
+    const order = new Set();
+    for (let presses = 0; presses < 12; ++presses) order.add(await player.keys("Tab").then(() => player.focus()));
+    order.delete("");  // outside of the windows
+    assert.deepEqual([...order], ["List1", "List2(0)", "List2(1)", "List2(2)", "Label1", "Text1", "Text2"].map((name) => `Form1.${name}`));
+    // A screen reader speaks the new reply, all of it and nothing else.
+    for (const thing of ["okno", "skříň"]) {
+        const before = await told(player);
+        await choose("Form1.List2(0)", "Prozkoumej");
+        await choose("Form1.List2(1)", thing);
+        await proceed();
+        const spoken = await tab.$$eval("[aria-live=polite] > *", (lines) => lines.map((line) => line.textContent));
+        assert.deepEqual(spoken, (await told(player)).slice(before.length));
+        assert.notEqual(spoken.length, 0);
+    }
+    await choose("Form1.List2(0)", "Použij");
+    await choose("Form1.List2(1)", "terminál");
+    await choose("Form1.List2(2)", "sebe");
+    assert.equal((await shown(player, "Form1", "Text2")).text, "Použij terminál na sebe");
+    await proceed();
+    assert.equal((await player.look()).modal, "Form2");
+
+    // Nothing behind the terminal can be reached.
+    const reached = new Set();
+    for (let presses = 0; presses < 8; ++presses) reached.add(await player.keys("Tab").then(() => player.focus()));
+    assert.ok([...reached].every((control) => control === "" || control.startsWith("Form2.")), [...reached].join());
+    await tabTo("Form2.Text2");
+    await player.type("Form2.Text2", "exiit");
+    await player.keys("ArrowLeft", "Backspace", "Enter");
+    assert.equal((await player.look()).modal, null);
+    assert.equal(await player.focus(), "Form1.Text2");
+    await player.keys("Escape");
+    assert.deepEqual(await player.look(), { ended: true });
+    await player.keys("Enter");  // to play again
+    await tab.waitForSelector("#Form1:not([hidden])");
+    await tab.close();
+});
+
+for (const [held, width, height] of [["upright", 390, 844], ["sideways", 844, 390]]) {
+    test(`by finger on a phone held ${held}`, patience, async () => {
+        const tab = await browser.open(server.address, { width, height, touch: true });
+        const player = new Player(tab);
+        for (let page = 0; page < 2; ++page) await player.click("Form1.Label1");
+        await player.click("Form1.List2(0)", "Prozkoumej");
+        await player.click("Form1.List2(1)", "skříň");
+        assert.equal((await shown(player, "Form1", "Text2")).text, "Prozkoumej skříň");
+        const small = await tab.evaluate(findSmall);
+        await player.click("Form1.Label1");
+        assert.match((await told(player)).at(-1), /skříň/i);
+        await player.click("Form1.List2(0)", "Ulož pozici");
+        await player.click("Form1.Label1");
+        assert.equal((await player.look()).modal, "Form4");
+        const smallInPanel = await tab.evaluate(findSmall);
+        // Held sideways it is the desktop's layout, in small.
+        if (held === "upright") assert.deepEqual([...small, ...smallInPanel], []);
+        await tab.close();
+    });
+}
+
+// Runs in the page: what a finger would miss, an eye would strain at, or an edge cuts off.
+function findSmall() {
+    const found = [];
+    const say = (element, what) => found.push(`${element.closest("[id]")?.id} "${element.textContent.slice(0, 20)}" ${what}`);
+    if (document.scrollingElement.scrollWidth > innerWidth) say(document.scrollingElement, "scrolls sideways");
+    for (const element of document.querySelectorAll("button, input, p, [role=option], output")) {
+        if (!element.checkVisibility({ visibilityProperty: true }) || element.closest("[inert]")) continue;
+        const { left, right, height } = element.getBoundingClientRect();
+        if (left < -1 || right > innerWidth + 1) say(element, `lies from ${left} to ${right}`);
+        const size = parseFloat(getComputedStyle(element).fontSize);
+        if ((element.textContent || element.matches("input")) && size < 16) say(element, `has letters of ${size}`);
+        if (element.matches("button, [role=option]") && height < 43.5) say(element, `is ${height} high`);
+    }
+    return found;
+}
+
+test("axe finds nothing in the windows of a game", patience, async () => {
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    const hear = async (where) => assert.deepEqual([where, ...await findBarriers(tab)], [where]);
+    await hear("the title");
+    await player.keys("Enter", "Enter");
+    await hear("the main window");
+    await player.click("Form1.List2(0)", "Ulož pozici");
+    await player.keys("Enter");
+    await hear("the System Panel");
+    await player.click("Form4.Text1");
+    await player.type("Form4.Text1", "a/b");
+    await player.keys("Enter");
+    await tab.waitForSelector("#message-box:not([hidden])");
+    await hear("a message");
+    await player.look();
+    await player.keys("Backspace", "Backspace", "Backspace");
+    await player.type("Form4.Text1", "exit");
+    await player.keys("Enter");
+    await player.click("Form1.List2(0)", "Použij");
+    await player.click("Form1.List2(1)", "terminál");
+    await player.click("Form1.List2(2)", "sebe");
+    await player.keys("Enter");
+    await hear("the terminal");
+    await player.type("Form2.Text2", "exit");
+    await player.keys("Enter", "Escape");
+    await hear("the end");
+    await tab.close();
+});

@@ -1,0 +1,111 @@
+// Somebody who plays in the page with mouse, finger and keys, and sees of it what the DOM shows. Controls go by the names that the headless
+// player knows them by. What a real player could not do, for it is covered, hidden or without the focus, is refused.
+
+// Runs in the page: where to click the control, or the entry of the list; the sentence that says why that cannot be.
+function findTarget(id, entry) {
+    const control = document.getElementById(id);
+    if (control === null) return "there is no such control";
+    const options = [...control.querySelectorAll("[role=option]")];
+    const row = options.find((option) => option.textContent === entry) ?? options[entry];
+    const target = entry === "" ? control : row;
+    if (target === undefined) return `there is no such entry among ${options.map((option) => option.textContent)}`;
+    target.scrollIntoView({ block: "nearest" });
+    const { x, y, width, height } = target.getBoundingClientRect();
+    const point = { x: x + Math.min(width / 2, 20), y: y + height / 2 };
+    return target.contains(document.elementFromPoint(point.x, point.y)) ? point : "something else lies there";
+}
+
+// Runs in the page: what every window shows, as the headless player reports it, and the message that is in the way.
+function readPage() {
+    if (document.getElementById("notice").textContent.startsWith("Hra skončila.")) return { ended: true };
+    const box = document.getElementById("message-box");
+    if (!box.hidden) return { message: { title: box.querySelector("h2").textContent, text: box.querySelector("p").textContent } };
+    const read = (control) => {
+        const style = getComputedStyle(control);
+        if (control.matches(".output")) {
+            const lines = Array.from(control.querySelectorAll("p"), (line) => line.textContent);
+            return { text: lines.join("\r\n"), visible: style.visibility === "visible" };
+        }
+        if (control.matches(".list")) {
+            const rows = [...control.querySelectorAll("[role=option]")];
+            return { entries: rows.map((row) => row.textContent), selected: rows.findIndex((row) => row.ariaSelected === "true") };
+        }
+        const input = control.querySelector("input");
+        if (input) return { text: input.value, caret: input.selectionStart, visible: true };
+        return { caption: control.textContent, colour: style.color.match(/\d+/g).map(Number) };
+    };
+    const forms = {};
+    for (const form of document.querySelectorAll(".form")) {
+        const controls = Array.from(form.querySelectorAll(".control"), (control) => [control.id.slice(form.id.length + 1), read(control)]);
+        forms[form.id] = { visible: form.checkVisibility(), controls: Object.fromEntries(controls) };
+    }
+    const modal = document.querySelector(".form[role=dialog]:not([hidden])")?.id ?? null;
+    return { running: true, modal, focus: document.activeElement.closest(".control")?.id ?? "", messageBoxes: [], forms };
+}
+
+export class Player {
+    #tab;
+    #hasTouch;
+
+    constructor(tab) {
+        this.#tab = tab;
+        this.#hasTouch = tab.viewport()?.hasTouch;
+    }
+
+    // The number from 0 does for an entry's name.
+    async click(id, entry = "") {
+        const target = await this.#tab.evaluate(findTarget, id, entry);
+        if (typeof target === "string") throw new Error(`${id} ${entry}: ${target}`);
+        if (this.#hasTouch) await this.#tab.touchscreen.tap(target.x, target.y);
+        else await this.#tab.mouse.click(target.x, target.y);
+    }
+
+    async keys(...names) {
+        for (const name of names) await this.#tab.keyboard.press(name);
+    }
+
+    // Presses a key where a player would have to stand to do so.
+    async key(id, name) {
+        await this.#stand(id);
+        await this.keys(name);
+        if (id.startsWith("Form4.") && name === "Enter") await this.#awaitSave();
+    }
+
+    async type(id, text) {
+        await this.#stand(id);
+        await this.#tab.keyboard.type(text);
+    }
+
+    async #stand(id) {
+        const focus = await this.focus();
+        if (focus !== id) throw new Error(`${id}: the focus is in "${focus}"`);
+    }
+
+    focus() {
+        return this.#tab.evaluate(() => document.activeElement.closest(".control")?.id ?? "");
+    }
+
+    // A game is saved when the browser has it; the panel stays open over a refused name alone.
+    async #awaitSave() {
+        await this.#tab.waitForSelector("#Form4[hidden], #message-box:not([hidden])", { timeout: 1000 }).catch(() => {});
+    }
+
+    // As the headless player's `show`; messages are acknowledged.
+    async look() {
+        const messages = [];
+        for (;;) {
+            const { message, ...seen } = await this.#tab.evaluate(readPage);
+            if (message === undefined) return seen.ended ? seen : { ...seen, messageBoxes: messages };
+            messages.push(message);
+            await this.keys("Enter");
+        }
+    }
+
+    // The next random numbers that the game draws.
+    queueRandom(numbers) {
+        return this.#tab.evaluate((queued) => {
+            const draw = Math.random;
+            Math.random = () => queued.length > 0 ? queued.shift() : draw();
+        }, numbers);
+    }
+}
