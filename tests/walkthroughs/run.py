@@ -82,10 +82,10 @@ class Player:
         self.note_changes(before)
 
 
-def main():
+def main(player_of=Player):
     replay, folder, script = sys.argv[1:4]
     script = pathlib.Path(script)
-    player = Player(replay, folder)
+    player = player_of(replay, folder)
     for event in script.read_text(encoding="utf-8").splitlines():
         if event and not event.startswith("#"):
             if player.ended:

@@ -177,20 +177,21 @@ test("two pages do not lose each other's games, and leaving with unsaved steps a
     assert.equal(await answered, "beforeunload");
 });
 
-test("where nothing can be kept the player hears of it first, and can still carry his games away", chromiumAlone, async () => {
+test("where nothing can be kept the player hears of it first, and can still carry his games away", chromiumAlone, async (scene) => {
     const forgetful = await Browser.start({ keepsNothing: true });
+    scene.after(() => forgetful.stop());
     const tab = await forgetful.open(server.address);
     const player = new Player(tab);
     assert.match(await tab.$eval("#storage-notice", (notice) => notice.textContent), /neuchová/);
     await player.keys("Enter", "Enter");
     await saveAs(player, "jen tady");
-    assert.equal((await downloaded(tab, "jen tady", forgetful)).length > 0, true);
-    await forgetful.stop();
+    assert.ok((await downloaded(tab, "jen tady", forgetful)).length > 0);
     assert.deepEqual(forgetful.complaints, []);
 });
 
-test("the second visit needs no network", patience, async () => {
+test("the second visit needs no network", patience, async (scene) => {
     const visited = await serve(site);
+    scene.after(() => visited.stop());
     const first = await browser.open(visited.address);
     await first.evaluate(() => navigator.serviceWorker.ready.then(() => {}));
     await first.close();
