@@ -23,8 +23,11 @@ function readPage() {
     const read = (control) => {
         const style = getComputedStyle(control);
         if (control.matches(".output")) {
-            const lines = Array.from(control.querySelectorAll("p"), (line) => line.textContent);
-            return { text: lines.join("\r\n"), visible: style.visibility === "visible" };
+            const text = Array.from(control.querySelectorAll("p"), (line) => line.textContent).join("\r\n");
+            const { scrollTop, clientHeight, scrollHeight } = control;
+            const seen = { text, visible: style.visibility === "visible" };
+            if (scrollHeight <= clientHeight || !seen.visible) return seen;
+            return { ...seen, caret: scrollTop + clientHeight >= scrollHeight - 1 ? text.length : 0 };  // it is kept in sight
         }
         if (control.matches(".list")) {
             const rows = [...control.querySelectorAll("[role=option]")];

@@ -13,7 +13,7 @@ import run  # noqa: E402
 
 
 def differences(seen, meant):
-    """The page leaves out what it does not show, the caret of a box that is only read."""
+    """The page leaves out what it does not show: the caret of a box that is only read and whose text is all in sight."""
     for part in ("modal", "focus", "messageBoxes"):
         if seen[part] != meant[part]:
             yield f"{part}: {seen[part]} instead of {meant[part]}"
