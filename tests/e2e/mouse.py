@@ -10,7 +10,7 @@ import time
 from stage import MAIN, MAIN_SIZE, SCREEN, stage, wait_for
 
 VERBS = ["Jdi", "Prozkoumej", "Použij", "Vezmi", "Polož", "Otevři", "Zavři", "Oslov", "Vymaž", "Nahraj pozici", "Ulož pozici"]
-LISTS = {"verbs": (224, 448), "objects": (368, 448), "targets": (512, 448)}  # top left corners in pixels
+LISTS = {"carried": (16, 416), "verbs": (224, 448), "objects": (368, 448), "targets": (512, 448)}  # top left corners in pixels
 PROCEED = (188, 494)
 SYSTEM_PANEL = (312, 217)
 
