@@ -87,7 +87,7 @@ async function measureStarts(browser, game, bare) {
     const painted = { game: [], bare: [] };
     const ready = [];
     for (let start = 0; start < Starts; ++start) {
-        const ours = await measureStart(browser, game, "gui1.webp");
+        const ours = await measureStart(browser, game, "title.webp");
         painted.game.push(ours.painted);
         ready.push(ours.ready);
         painted.bare.push((await measureStart(browser, bare, "")).painted);

@@ -18,6 +18,7 @@ import re
 import shutil
 import sys
 
+IN_THE_PAGE = ("style.css", "watch.js")
 STAYS = re.compile(r"index\.html|worker\.js|manifest\.webmanifest|icon-.*\.png")
 # Fetched when a player installs the page; it starts without them.
 NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")  # the browser looks at the smaller icon on every visit
@@ -42,6 +43,12 @@ def with_style(page, style):
     """The style stands in the page: one journey less before anything can be painted."""
     page = replace_once(page, "style-src 'self'", f"style-src '{sha256(style.encode())}'")
     return replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
+
+
+def with_watch(page, script, game):
+    """The first script stands in the page too; `game` says where it finds the others, if they do not."""
+    page = replace_once(page, "script-src ", f"script-src '{sha256(script.encode())}' ")
+    return replace_once(page, '<script src="watch.js" data-game="start.mjs"></script>', f"<script{game}>{script}</script>")
 
 
 def style_of(parts, address):
@@ -73,18 +80,17 @@ def texts_of(parts, suffix):
 
 
 def with_addresses(page, parts, version):
-    """The page with the addresses of a version. Scripts are not asked for ahead: the title would be painted later, the game no sooner."""
+    """The page with the addresses of a version."""
     page = with_style(page, style_of(parts, lambda name: f"{version}/{name}"))
-    for name in ("watch.js", "start.mjs", "pics/gui1.webp"):
-        page = page.replace(f'"{name}"', f'"{version}/{served_name(name)}"')
-    return page
+    page = with_watch(page, parts["watch.js"].decode(), f' data-game="{version}/{served_name("start.mjs")}"')
+    return replace_once(page, '"pics/title.webp"', f'"{version}/pics/title.webp"')
 
 
 def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
     everything += pathlib.Path(__file__).read_bytes()  # another way to put them together is another version
     version = hashlib.sha256(everything).hexdigest()[:12]
-    served = {name: data for name, data in parts.items() if name != "style.css"}
+    served = {name: data for name, data in parts.items() if name not in IN_THE_PAGE}
     files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in served.items()}
     files["index.html"] = with_addresses(parts["index.html"].decode(), parts, version).encode()
     kept = {"./" if name == "index.html" else name: sha256(data) for name, data in files.items() if not NOT_KEPT.fullmatch(name)}
@@ -136,20 +142,19 @@ def data_element(name, data):
 def make_file(parts, files_module, result):
     modules = texts_of(parts, ".mjs") | {"files.mjs": files_module.read_text()}
     style = style_of(parts, lambda name: data_address(name, parts[name]))
-    watch = parts["watch.js"].decode()
     script = one_script(modules)
-    policy = (f"default-src 'none'; script-src '{sha256(watch.encode())}' '{sha256(script.encode())}' 'wasm-unsafe-eval'; "
+    policy = (f"default-src 'none'; script-src '{sha256(script.encode())}' 'wasm-unsafe-eval'; "
               f"style-src 'self'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
     page = parts["index.html"].decode()
     page = with_style(re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1), style)
-    page = re.sub(r'<link rel="(manifest|apple-touch-icon|preload)".*\n', "", page)
+    page = with_watch(page, parts["watch.js"].decode(), "")
+    page = re.sub(r'<link rel="(manifest|apple-touch-icon)".*\n', "", page)
     page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
     page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)',
                   r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)
     page = replace_once(page, '"icon-32.png"', f'"{data_address("icon-32.png", parts["icon-32.png"])}"')
-    page = replace_once(page, '<script defer src="watch.js" fetchpriority="low"></script>', f"<script>{watch}</script>")
-    page = replace_once(page, '<script type="module" src="start.mjs" fetchpriority="low"></script>\n', "")
-    data = [data_element(name, data) for name, data in parts.items() if name.endswith((".webp", ".wasm", ".dat"))]
+    read = [name for name in parts if name.endswith((".webp", ".wasm", ".dat")) and name != "pics/title.webp"]
+    data = [data_element(name, parts[name]) for name in read]
     page = replace_once(page, "</body>", "\n".join([*data, f'<script type="module">{script}</script>', "</body>"]))
     result.write_text(page)
 

@@ -29,6 +29,11 @@ function hearEnter() {
     if (enterPressed) document.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter" }));
 }
 
+// The main window shall not be seen without its picture.
+async function loadTitlePicture() {
+    await Object.assign(new Image(), { src: addressOf("pics/gui1.webp") }).decode().catch(() => {});
+}
+
 // The main window shows the same picture by the next frame.
 function takeTitleAway() {
     requestAnimationFrame(() => setTimeout(() => document.getElementById("title")?.remove()));
@@ -37,7 +42,7 @@ function takeTitleAway() {
 async function start() {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
     const [{ default: createEngine }, program, story, hasArial] =
-        await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace()]);
+        await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace(), loadTitlePicture()]);
     const page = new Page(document.getElementById("stage"), hasArial);
     const engine = await createEngine({
         page,

@@ -1,5 +1,7 @@
-// Says in place of the game why there is none. A script for browsers of any age, so that those too old for the game are told as well.
+// Fetches the game when its title stands on the screen, and says in its place why there is none. A script for browsers of any age, so that
+// those too old for the game are told as well.
 (function () {
+    var game = document.currentScript.getAttribute("data-game");
     var started = false;
 
     // The reasons are those that index.html has a sentence for.
@@ -26,11 +28,23 @@
         return !("noModule" in document.createElement("script")) || !("inert" in document.body) || !window.CSS || !CSS.registerProperty;
     }
 
+    function checkStart() {
+        if (!started) show(location.protocol === "file:" && document.getElementById("trouble-folder") ? "folder" : "incomplete");
+    }
+
+    function fetchGame() {
+        var script = document.createElement("script");
+        script.type = "module";
+        script.src = game;
+        script.onload = script.onerror = checkStart;
+        document.body.appendChild(script);
+    }
+
     window.addEventListener("starting", function () { started = true; });
     window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
-    // By then the scripts that could be loaded have run.
     window.addEventListener("load", function () {
         if (isOld()) show("old");
-        else if (!started) show(location.protocol === "file:" && document.getElementById("trouble-folder") ? "folder" : "incomplete");
+        else if (!game) checkStart();  // it came with the page
+        else requestAnimationFrame(function () { setTimeout(fetchGame); });
     });
 })();
