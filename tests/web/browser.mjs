@@ -1,7 +1,6 @@
 // Opens the page in a real browser, from a plain server on the loopback, in a sub-folder and with a fresh profile. What the page does
 // that it never may is kept as complaints: errors, requests to other hosts, breaches of its own policy.
-import { createReadStream } from "node:fs";
-import { mkdir, mkdtemp, readFile, rm, stat, writeFile } from "node:fs/promises";
+import { mkdir, mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
 import http from "node:http";
 import { tmpdir } from "node:os";
 import path from "node:path";
@@ -12,15 +11,16 @@ const Types = { ".html": "text/html", ".js": "text/javascript", ".mjs": "text/ja
 const Quiet = ["--headless=new", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
     "--disable-component-update", "--disable-sync"];
 
-// A plain web server. Stopped, it leaves as little behind as a network that is cut.
-export async function serve(site) {
+// A plain web server. Stopped, it leaves as little behind as a network that is cut. `spoil` makes of a file's name and bytes what is sent in
+// their place; null is a file that is missing.
+export async function serve(site, spoil = (name, bytes) => bytes) {
     const server = http.createServer(async (request, response) => {
         const { pathname } = new URL(request.url, "http://localhost");
         const file = path.join(site, decodeURI(pathname.slice(Folder.length)), pathname.endsWith("/") ? "index.html" : "");
-        const found = pathname.startsWith(Folder) && await stat(file).then((status) => status.isFile(), () => false);
-        response.writeHead(found ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
-        if (found) createReadStream(file).pipe(response);
-        else response.end();
+        const found = pathname.startsWith(Folder) ? await readFile(file).catch(() => null) : null;
+        const sent = found && spoil(path.basename(file), found);
+        response.writeHead(sent ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
+        response.end(sent);
     });
     await new Promise((listening) => server.listen(0, "127.0.0.1", listening));
     return {
@@ -78,8 +78,8 @@ export class Browser {
         return started;
     }
 
-    // A tab that shows the page; `prepare` runs in it before any script of the page.
-    async open(address, { width = 1280, height = 800, touch = false, prepare = () => {} } = {}) {
+    // A tab that shows the page, and there what is waited for; `prepare` runs in it before any script of the page.
+    async open(address, { width = 1280, height = 800, touch = false, prepare = () => {}, shows = "#Form1:not([hidden])" } = {}) {
         const tab = await this.#browser.newPage();
         await tab.setViewport({ width, height, hasTouch: touch, isMobile: touch });
         this.#watch(tab, new URL(address).origin);
@@ -90,7 +90,7 @@ export class Browser {
         });
         await tab.evaluateOnNewDocument(prepare);
         await tab.goto(address);
-        await tab.waitForSelector("#Form1:not([hidden])");
+        await tab.waitForSelector(shows);
         return tab;
     }
 

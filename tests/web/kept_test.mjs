@@ -2,10 +2,11 @@
 //     kept_test.mjs SITE NATIVE_REPLAY PROGRAM_FOLDER
 import assert from "node:assert/strict";
 import { spawnSync } from "node:child_process";
-import { cp, mkdir, mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
+import { copyFile, cp, mkdir, mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
 import { tmpdir } from "node:os";
 import path from "node:path";
 import { after, before, test } from "node:test";
+import { pathToFileURL } from "node:url";
 import { Browser, findBarriers, serve } from "./browser.mjs";
 import { Player } from "./player.mjs";
 
@@ -41,14 +42,6 @@ function playNatively(events) {
 }
 
 const nativeSave = (name) => path.join(folder, "data", "saves", `${name}.TVX`);
-
-async function saveAs(player, name) {
-    await player.click("Form1.List2(0)", "Ulož pozici");
-    await player.keys("Enter");
-    await player.click("Form4.Text1");
-    await player.type("Form4.Text1", name);
-    await player.key("Form4.Text1", "Enter");
-}
 
 // The browser reads what it keeps while the game already runs; a panel that is open by then is listed anew.
 async function waitForListed(player, ...names) {
@@ -109,7 +102,7 @@ test("a game is saved, found again by the next visit, and told on by the headles
     assert.match((await player.look()).forms.Form2.controls.Text1.text, /Dobrý den, pane Selagu Hemafo!/);
     await player.type("Form2.Text2", "exit");
     await player.click("Form2.Label2");
-    await saveAs(player, "žlutá");
+    await player.saveAs("žlutá");
     await writeFile(nativeSave("žlutá"), await downloaded(tab, "žlutá"));
     const loaded = playNatively([...Beginning, ...load("žlutá")]);
     assert.deepEqual(loaded.forms.Form1.controls.List1.entries, ["nářadí"]);
@@ -157,13 +150,30 @@ test("a game that the headless player saved is taken in, a damaged one is not", 
     await tab.close();
 });
 
+test("the one file plays by itself, from an odd folder, and finds its saved game again", patience, async (scene) => {
+    const odd = await mkdtemp(path.join(tmpdir(), "Můj kód & #1 100% "));
+    scene.after(() => rm(odd, { recursive: true }));
+    const file = path.join(odd, "hra.html");
+    await copyFile(path.join(site, "../orvel-tavoren.html"), file);
+    const tab = await browser.open(pathToFileURL(file).href);
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    await player.saveAs("žlutá");
+    await tab.reload();
+    await tab.waitForSelector("#Form1:not([hidden])");
+    await player.keys("Enter", "Enter");
+    await loadNamed(player, "žlutá");
+    assert.equal((await player.look()).modal, null);
+    await tab.close();
+});
+
 test("two pages do not lose each other's games, and leaving with unsaved steps asks", chromiumAlone, async () => {
     const tabs = [await browser.open(server.address), await browser.open(server.address)];
     for (const [number, tab] of tabs.entries()) {
         const player = new Player(tab);
         await tab.bringToFront();
         await player.keys("Enter", "Enter");
-        await saveAs(player, `stránka ${number}`);
+        await player.saveAs(`stránka ${number}`);
     }
     const [tab, other] = tabs;
     await other.close();
@@ -195,7 +205,7 @@ test("where nothing can be kept the player hears of it first, and can still carr
     const player = new Player(tab);
     assert.match(await tab.$eval("#storage-notice", (notice) => notice.textContent), /neuchová/);
     await player.keys("Enter", "Enter");
-    await saveAs(player, "jen tady");
+    await player.saveAs("jen tady");
     assert.ok((await downloaded(tab, "jen tady", forgetful)).length > 0);
     assert.deepEqual(forgetful.complaints, []);
 });

@@ -79,6 +79,14 @@ export class Player {
         await this.#tab.keyboard.type(text);
     }
 
+    async saveAs(name) {
+        await this.click("Form1.List2(0)", "Ulož pozici");
+        await this.keys("Enter");
+        await this.click("Form4.Text1");
+        await this.type("Form4.Text1", name);
+        await this.key("Form4.Text1", "Enter");
+    }
+
     async #stand(id) {
         const focus = await this.focus();
         if (focus !== id) throw new Error(`${id}: the focus is in "${focus}"`);

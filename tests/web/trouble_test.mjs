@@ -1,0 +1,50 @@
+// What the page says where it cannot start, and that it starts when the cause is gone.
+//     trouble_test.mjs SITE
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { Browser, serve } from "./browser.mjs";
+
+const site = process.argv[2];
+const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
+const half = (bytes) => bytes.subarray(0, bytes.length / 2);
+const nothing = () => null;
+const trouble = { shows: "#trouble:not([hidden])" };
+let browser;
+
+before(async () => { browser = await Browser.start(); });
+after(() => browser.stop());
+
+const told = (tab) => tab.evaluate(() => document.body.innerText);
+
+for (const [name, spoil, sentence] of [
+    ["engine.wasm", half, /Soubor engine\.wasm dorazil poškozený/],
+    ["engine.wasm", nothing, /chybí soubor engine\.wasm/],
+    ["engine.js", nothing, /chybí soubor engine\.js/],
+    ["texs.dat", half, /Soubor texs\.dat dorazil poškozený/],
+    ["page_menu.js", nothing, /Hra se nenačetla celá/],
+]) {
+    test(`${name}, ${spoil === half ? "damaged" : "missing"} on the server, is named, until it is mended`, patience, async (scene) => {
+        let mended = false;
+        const server = await serve(site, (file, bytes) => file === name && !mended ? spoil(bytes) : bytes);
+        scene.after(() => server.stop());
+        const tab = await browser.open(server.address, { shows: "#trouble:not([hidden]), #message-box:not([hidden])" });
+        if (await tab.$("#message-box:not([hidden])")) await tab.keyboard.press("Enter");  // the program itself says what is wrong with its story
+        await tab.waitForSelector(trouble.shows);
+        assert.match(await told(tab), sentence);
+        mended = true;
+        await tab.click("#try-again");
+        await tab.waitForSelector("#Form1:not([hidden])");
+        await tab.close();
+    });
+}
+
+test("a browser without WebAssembly, and one without scripts, are told what the game needs", patience, async (scene) => {
+    const server = await serve(site);
+    scene.after(() => server.stop());
+    const tab = await browser.open(server.address, { ...trouble, prepare: () => { delete window.WebAssembly; } });
+    assert.match(await told(tab), /nemá WebAssembly/);
+    await tab.setJavaScriptEnabled(false);
+    await tab.reload();
+    assert.match(await told(tab), /potřebuje JavaScript/);
+    await tab.close();
+});
