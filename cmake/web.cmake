@@ -10,6 +10,8 @@ endfunction()
 
 orvel_node_program(pack_texts)
 orvel_node_program(replay)
+# The report throws nothing. Where it could, each of its calls would be a journey into JavaScript and back.
+set_source_files_properties(app/replay_report.cpp PROPERTIES COMPILE_OPTIONS -fno-exceptions)
 # Started as the native player is.
 set(headless_player ${PROJECT_BINARY_DIR}/replay)
 file(CONFIGURE OUTPUT ${headless_player} NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
