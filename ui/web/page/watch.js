@@ -45,6 +45,7 @@
     window.addEventListener("load", function () {
         if (isOld()) show("old");
         else if (!game) checkStart();  // it came with the page
-        else requestAnimationFrame(function () { setTimeout(fetchGame); });
+        // By the second frame the first one, with the title in it, is on the screen.
+        else requestAnimationFrame(function () { requestAnimationFrame(fetchGame); });
     });
 })();
