@@ -14,6 +14,7 @@ export class OutputView {
     #probe = newElement("div", "probe");
     #line = null;
     #news = "";
+    #newest = null;  // the line where the news began
     #atEnd = false;
 
     constructor(layout, place, page) {
@@ -43,12 +44,12 @@ export class OutputView {
     }
 
     append(text) {
+        if (this.#news === "") this.#newest = null;
         this.#news += text;
-        const [first, ...others] = text.split("\r\n");
-        this.#line.append(first);
-        for (const line of others) {
-            this.#startLine();
+        for (const [index, line] of text.split("\r\n").entries()) {
+            if (index > 0) this.#startLine();
             this.#line.append(line);
+            if (line !== "") this.#newest ??= this.#line;
         }
     }
 
@@ -70,8 +71,11 @@ export class OutputView {
         this.#follow();
     }
 
+    // To the end; where the style asks for it, only so far that the news are read from their beginning.
     #follow() {
-        if (this.#atEnd) this.element.scrollTop = this.element.scrollHeight;
+        if (!this.#atEnd) return;
+        const fromBeginning = getComputedStyle(this.element).getPropertyValue("--news").trim() === "from-beginning";
+        this.element.scrollTop = fromBeginning && this.#newest ? this.#newest.offsetTop : this.element.scrollHeight;
     }
 
     // All lines are equally high.
