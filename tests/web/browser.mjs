@@ -7,18 +7,18 @@ import path from "node:path";
 import puppeteer from "puppeteer-core";
 
 const Folder = "/hry/orvel/";
-const Types = { ".html": "text/html", ".js": "text/javascript", ".mjs": "text/javascript", ".css": "text/css", ".png": "image/png" };
+const Types = { ".html": "text/html", ".js": "text/javascript", ".wasm": "application/wasm", ".png": "image/png" };
 const Quiet = ["--headless=new", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
     "--disable-component-update", "--disable-sync"];
 
 // A plain web server. Stopped, it leaves as little behind as a network that is cut. `spoil` makes of a file's name and bytes what is sent in
-// their place; null is a file that is missing.
+// their place, or promises it; null is a file that is missing.
 export async function serve(site, spoil = (name, bytes) => bytes) {
     const server = http.createServer(async (request, response) => {
         const { pathname } = new URL(request.url, "http://localhost");
         const file = path.join(site, decodeURI(pathname.slice(Folder.length)), pathname.endsWith("/") ? "index.html" : "");
         const found = pathname.startsWith(Folder) ? await readFile(file).catch(() => null) : null;
-        const sent = found && spoil(path.basename(file), found);
+        const sent = found && await spoil(path.basename(file), found);
         response.writeHead(sent ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
         response.end(sent);
     });
@@ -38,7 +38,11 @@ async function launch(kind, profile, downloads, keepsNothing) {
             browser: "firefox",
             executablePath: "/usr/bin/firefox-esr",
             userDataDir: profile,
-            extraPrefsFirefox: { "browser.download.folderList": 2, "browser.download.dir": downloads },
+            extraPrefsFirefox: {
+                "browser.download.folderList": 2,
+                "browser.download.dir": downloads,
+                ...(keepsNothing && { "network.cookie.cookieBehavior": 2 }),
+            },
         });
     }
     if (keepsNothing) {
@@ -68,7 +72,7 @@ export class Browser {
     #browser;
     #profile;
 
-    // One that keeps nothing is set to refuse pages all storage (Chromium alone).
+    // One that keeps nothing is set to refuse pages all storage.
     static async start({ keepsNothing = false } = {}) {
         const started = new Browser();
         started.#profile = await mkdtemp(path.join(tmpdir(), "orvel-page-"));

@@ -198,7 +198,7 @@ test("two pages do not lose each other's games, and leaving with unsaved steps a
     assert.equal(await answered, "beforeunload");
 });
 
-test("where nothing can be kept the player hears of it first, and can still carry his games away", chromiumAlone, async (scene) => {
+test("where nothing can be kept the player hears of it first, and can still carry his games away", patience, async (scene) => {
     const forgetful = await Browser.start({ keepsNothing: true });
     scene.after(() => forgetful.stop());
     const tab = await forgetful.open(server.address);
@@ -207,7 +207,8 @@ test("where nothing can be kept the player hears of it first, and can still carr
     await player.keys("Enter", "Enter");
     await player.saveAs("jen tady");
     assert.ok((await downloaded(tab, "jen tady", forgetful)).length > 0);
-    assert.deepEqual(forgetful.complaints, []);
+    // Firefox says on its own that it keeps no page either.
+    assert.deepEqual(forgetful.complaints.filter((complaint) => !complaint.includes("ServiceWorker")), []);
 });
 
 test("the second visit needs no network", patience, async (scene) => {

@@ -43,7 +43,7 @@ export class SavedGames {
     #downloaded = new Map();
     #database = null;
     #last;  // all work on the records is done one after the other
-    #others = new BroadcastChannel(Database);
+    #others = null;  // the other tabs; a browser that keeps nothing may not let them be called
     refused = false;  // nothing can be kept; all lives in memory as long as the page does
     isPrivate = false;  // all is forgotten with the window
     hasFailed = false;  // a browser whose storage failed once, as on a full disk, may drop all of it when it starts anew
@@ -56,7 +56,6 @@ export class SavedGames {
         this.#folder = folder;
         this.#watchFolder(files.lookupPath(folder).node);
         this.#last = this.#start();
-        this.#others.onmessage = () => this.#read();
         document.addEventListener("visibilitychange", () => {
             if (!document.hidden) this.#read();
         });
@@ -66,6 +65,8 @@ export class SavedGames {
         this.isPrivate = await isPrivateWindow();
         try {
             await this.#open();
+            this.#others = new BroadcastChannel(Database);
+            this.#others.onmessage = () => this.#read();
             if (await this.#takeRecords()) this.onChange();
         } catch (error) {
             console.warn(error);
@@ -83,7 +84,10 @@ export class SavedGames {
             this.#noteFailure();
             this.onNews();
         };
-        database.onversionchange = () => database.close();
+        database.onversionchange = () => {
+            database.close();
+            this.#database = null;
+        };
         this.#database = database;
     }
 
