@@ -66,7 +66,10 @@ void WebDesktop::ShowModal(Form& form) {
 void WebDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
     mirror.Copy(modal, true);
     page::OpenMessageBox(text, title);
-    while (page::WaitForEvent().Kind != page::EventKind::Acknowledge) {
+    for (;;) {
+        const page::EventKind kind = page::WaitForEvent().Kind;
+        if (kind == page::EventKind::Acknowledge) break;
+        if (kind == page::EventKind::FilesChanged) filesHaveChanged = true;
     }
     page::CloseMessageBox();
     mirror.Copy(modal, false);
@@ -88,6 +91,7 @@ bool WebDesktop::IsReachable(const page::Event& event) const {
 }
 
 void WebDesktop::PlayNextEvent() {
+    if (std::exchange(filesHaveChanged, false)) return Enter(FilesChanged);
     const page::Event event = page::WaitForEvent();
     if (event.Kind == page::EventKind::FilesChanged) return Enter(FilesChanged);
     if (!IsReachable(event)) return;

@@ -35,6 +35,7 @@ private:
     mutable Mirror mirror;
     Form* modal = nullptr;
     bool ended = false;
+    bool filesHaveChanged = false;  // while a message was in the way
 };
 
 }  // namespace ui::web
