@@ -28,9 +28,9 @@ export async function fetchProgram(name) {
     const response = await fetchFile(name);
     const streams = response.headers.get("content-type") === "application/wasm";
     const compiled = streams ? WebAssembly.compileStreaming(response) : WebAssembly.compile(await readAll(response, name));
-    // Browsers have many errors for a program that is not one, and one for a network that went.
+    // Browsers have many errors for a program that is not one, and these for a network that went.
     return compiled.catch((error) => {
-        throw error instanceof Trouble ? error : trouble(error instanceof TypeError ? "unreachable" : "damaged", name, error);
+        throw trouble(error instanceof TypeError || error instanceof DOMException ? "unreachable" : "damaged", name, error);
     });
 }
 

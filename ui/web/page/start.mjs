@@ -17,18 +17,6 @@ function importEngine() {
     });
 }
 
-// The title asks for Enter before the game can hear it.
-let enterPressed = false;
-function noteEnter(event) {
-    enterPressed ||= event.key === "Enter";
-}
-addEventListener("keydown", noteEnter);
-
-function hearEnter() {
-    removeEventListener("keydown", noteEnter);
-    if (enterPressed) document.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter" }));
-}
-
 // The main window shall not be seen without its picture.
 async function loadTitlePicture() {
     await Object.assign(new Image(), { src: addressOf("pics/gui1.webp") }).decode().catch(() => {});
@@ -62,7 +50,7 @@ async function start() {
     watchProgram();
     engine.callMain([]);
     takeTitleAway();
-    hearEnter();
+    dispatchEvent(new Event("playing"));
     keepForOffline();
 }
 

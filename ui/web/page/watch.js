@@ -2,7 +2,9 @@
 // those too old for the game are told as well.
 (function () {
     var game = document.currentScript.getAttribute("data-game");
+    var asked = false;
     var started = false;
+    var enterPressed = false;
 
     // The reasons are those that index.html has a sentence for.
     function show(reason, address) {
@@ -40,12 +42,28 @@
         document.body.appendChild(script);
     }
 
-    window.addEventListener("starting", function () { started = true; });
-    window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
-    window.addEventListener("load", function () {
+    function askForGame() {
+        if (asked) return;
+        asked = true;
         if (isOld()) show("old");
         else if (!game) checkStart();  // it came with the page
         // By the second frame the first one, with the title in it, is on the screen.
         else requestAnimationFrame(function () { requestAnimationFrame(fetchGame); });
+    }
+
+    // The title asks for Enter before the game can hear it.
+    function noteEnter(event) {
+        if (event.key === "Enter") enterPressed = true;
+    }
+
+    window.addEventListener("keydown", noteEnter);
+    window.addEventListener("playing", function () {
+        window.removeEventListener("keydown", noteEnter);
+        if (enterPressed) document.dispatchEvent(new KeyboardEvent("keydown", { key: "Enter" }));
     });
+    window.addEventListener("starting", function () { started = true; });
+    window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
+    window.addEventListener("load", askForGame);
+    // A picture that does not come keeps nobody from playing.
+    if (game) setTimeout(askForGame, 5000);
 })();
