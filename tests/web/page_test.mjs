@@ -48,7 +48,10 @@ test("by keyboard alone, from the title into the terminal and out", patience, as
         await player.keys("Space");
     };
 
-    await player.keys("Enter", "Enter");
+    for (let held = 0; held < 3; ++held) await tab.keyboard.down("Enter");
+    assert.doesNotMatch((await told(player)).at(-1), /jít/);  // still the introduction
+    await tab.keyboard.up("Enter");
+    await player.keys("Enter");
     const order = new Set();
     for (let presses = 0; presses < 12; ++presses) order.add(await player.keys("Tab").then(() => player.focus()));
     order.delete("");  // outside of the windows
@@ -83,6 +86,38 @@ test("by keyboard alone, from the title into the terminal and out", patience, as
     assert.deepEqual(await player.look(), { ended: true });
     await player.keys("Enter");  // to play again
     await tab.waitForSelector("#Form1:not([hidden])");
+    await tab.close();
+});
+
+test("Enter is heard that was pressed on the title before the game had come", patience, async (scene) => {
+    let send;
+    const sent = new Promise((resolve) => { send = resolve; });
+    const slow = await serve(process.argv[2], (name, bytes) => name === "start.js" ? sent.then(() => bytes) : bytes);
+    scene.after(() => slow.stop());
+    const tab = await browser.open(slow.address, { shows: "#title" });
+    await tab.keyboard.press("Enter");
+    send();
+    await tab.waitForSelector("#Form1:not([hidden])");
+    await tab.waitForFunction(() => document.getElementById("Form1.Text1").textContent !== "");
+    await tab.close();
+});
+
+test("what an input method composes is taken once", patience, async () => {
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    await player.click("Form1.List2(0)", "Použij");
+    await player.click("Form1.List2(1)", "terminál");
+    await player.click("Form1.List2(2)", "sebe");
+    await player.keys("Enter");
+    const keyboard = await tab.createCDPSession();
+    await keyboard.send("Input.imeSetComposition", { text: "žluť", selectionStart: 4, selectionEnd: 4 });
+    assert.equal((await shown(player, "Form2", "Text2")).text, "žluť");
+    await player.click("Form2.Label2");
+    assert.equal((await shown(player, "Form2", "Text2")).text, "");
+    await player.type("Form2.Text2", "exit");
+    await player.keys("Enter");
+    assert.equal((await player.look()).modal, null);
     await tab.close();
 });
 

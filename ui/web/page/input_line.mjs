@@ -64,6 +64,10 @@ export class InputLine {
 
     // By now the program has answered to the key. The keyboards of phones tell no keys, only what they type.
     #beforeInput(event) {
+        if (event.inputType === "insertLineBreak") {
+            event.preventDefault();
+            return this.#announce(13);
+        }
         if (!event.inputType.startsWith("insert") || event.inputType === "insertFromPaste") return;
         if (!this.#keyTold && event.data) this.#announce([...event.data].at(-1).codePointAt(0));
         else if (this.#page.keySwallowed && event.cancelable) event.preventDefault();
@@ -77,10 +81,12 @@ export class InputLine {
         this.#page.events.post(EventKind.Edit, this.#place, { before, after });
     }
 
-    // What already agrees is left alone: setting it would undo the player's selection.
+    // What already agrees is left alone: setting it would undo the player's selection. So is what he still composes, until something else
+    // than an edit changes the line.
     show(text, caret) {
         this.#shown = { text, caret };
-        if (this.#composing) return;
+        if (this.#composing && this.#page.events.current.kind === EventKind.Edit) return;
+        this.#composing = false;
         const differs = this.#input.value !== text;
         if (differs) this.#input.value = text;
         if (differs || this.#input.selectionStart !== caret) this.#input.setSelectionRange(caret, caret);

@@ -19,11 +19,12 @@ function isShortcut(event) {
 
 export function listenToKeys(page, messageBox) {
     document.addEventListener("keydown", (event) => {
-        if (event.isComposing || isShortcut(event)) return;
+        // Held, these are one wish: what they brought has not been read yet.
+        if (event.repeat && ["Enter", "Escape"].includes(event.key)) return event.preventDefault();
+        if (event.isComposing || isShortcut(event) || document.querySelector("dialog[open]")) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);
         const here = page.controlAround(document.activeElement);
-        const outside = here === null && document.activeElement !== document.body;
-        if (outside || document.querySelector("dialog[open]")) return;
+        if (here === null && document.activeElement !== document.body) return;  // outside of the windows
         const character = characterOf(event);
         if (here?.keyDown(event, character) || here === page.focused) return;
         page.focused?.keyDown(event, character);

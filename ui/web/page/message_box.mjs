@@ -38,7 +38,8 @@ export class MessageBox {
     }
 
     keyDown(event) {
-        if (event.key === "Escape") this.#acknowledge();
+        const besideButton = event.key === "Enter" && document.activeElement === document.body;
+        if (event.key === "Escape" || besideButton) this.#acknowledge();
     }
 
     #acknowledge() {
