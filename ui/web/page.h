@@ -25,7 +25,7 @@ struct Event {
     std::string After;   // and behind it
 };
 
-// Sleeps until the player does something. The only place in the program where the page gets its turn.
+// Sleeps until the player does something. Besides the keeping of a saved game, the only place where the page gets its turn.
 Event WaitForEvent();
 
 // Whether the key that was last announced is to leave no trace in its box.

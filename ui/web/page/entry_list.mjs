@@ -13,14 +13,15 @@ export class EntryList {
     #entries = [];
     #selected = -1;
     #marked = 0;
+    #wholeRows;
 
     constructor(layout, place, page) {
         this.#page = page;
         this.#place = place;
-        this.wholeRows = Math.floor((layout.height / TwipsPerPixel - Border) / RowHeight);
+        this.#wholeRows = Math.floor((layout.height / TwipsPerPixel - Border) / RowHeight);
         this.element = document.createElement("div");
         this.element.className = "list";
-        this.element.style.setProperty("--rows", this.wholeRows);
+        this.element.style.setProperty("--rows", this.#wholeRows);
         this.#rows.className = "rows";
         this.#rows.tabIndex = 0;
         this.#rows.setAttribute("role", "listbox");
@@ -79,8 +80,8 @@ export class EntryList {
         switch (key) {
             case "ArrowUp": return Math.max(from - 1, 0);
             case "ArrowDown": return Math.min(from + 1, last);
-            case "PageUp": return Math.max(from - this.wholeRows, 0);
-            case "PageDown": return Math.min(Math.max(from, 0) + this.wholeRows, last);
+            case "PageUp": return Math.max(from - this.#wholeRows, 0);
+            case "PageDown": return Math.min(Math.max(from, 0) + this.#wholeRows, last);
             case "Home": return 0;
             case "End": return last;
             default: return -1;

@@ -26,7 +26,8 @@ function dosTime(date) {
 }
 
 // `files` are pairs of name and bytes.
-export function zip(files, date = new Date()) {
+export function zip(files) {
+    const date = new Date();
     const parts = [];
     const directory = [];
     const sizeOf = (list) => list.reduce((sum, part) => sum + part.length, 0);
