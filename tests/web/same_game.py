@@ -118,7 +118,7 @@ def saved_in(folder):
 
 def main():
     programs, program_folder = sys.argv[1:3], pathlib.Path(sys.argv[3])
-    events, seed = (int(given) for given in (sys.argv[4:] + ["1000", "1"][len(sys.argv) - 4:]))
+    events, seed = (int(given) for given in (sys.argv[4:] + ["500", "1"][len(sys.argv) - 4:]))
     if not pathlib.Path(programs[0]).exists():
         sys.exit(f"{programs[0]} is missing: build the preset \"release\" first")
     dice = random.Random(seed)
