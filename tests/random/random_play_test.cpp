@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int QuickEvents = 20000;
+constexpr int QuickEvents = 10000;
 constexpr int EventsOfAGame = 500;
 
 int Setting(const char* name, int otherwise) {
