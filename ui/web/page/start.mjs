@@ -17,9 +17,10 @@ function importEngine() {
     });
 }
 
-// The main window shall not be seen without its picture.
+// The main window shall not be seen without its picture; but one that does not come keeps nobody from playing.
 async function loadTitlePicture() {
-    await Object.assign(new Image(), { src: addressOf("pics/gui1.webp") }).decode().catch(() => {});
+    const loaded = Object.assign(new Image(), { src: addressOf("pics/gui1.webp") }).decode().catch(() => {});
+    await Promise.race([loaded, new Promise((late) => { setTimeout(late, 3000); })]);
 }
 
 // The main window shows the same picture by the next frame.
