@@ -79,8 +79,8 @@ async function openCold(browser, address, isGame) {
     await page.setViewport({ width: 1280, height: 800 });
     for (const note of [notePaints, noteReadiness, noteMemory]) await page.evaluateOnNewDocument(note);
     await page.goto(address);
+    await pause(1000);  // what looks into the page while it starts would be measured too
     if (isGame) await page.waitForSelector("#Form1:not([hidden])");
-    await pause(300);
     return { page, context };
 }
 
