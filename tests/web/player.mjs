@@ -79,9 +79,15 @@ export class Player {
         await this.#tab.keyboard.type(text);
     }
 
-    async saveAs(name) {
-        await this.click("Form1.List2(0)", "Ulož pozici");
+    // Chooses the verb and its things, and carries the sentence out.
+    async command(verb, ...things) {
+        await this.click("Form1.List2(0)", verb);
+        for (const [index, thing] of things.entries()) await this.click(`Form1.List2(${index + 1})`, thing);
         await this.keys("Enter");
+    }
+
+    async saveAs(name) {
+        await this.command("Ulož pozici");
         await this.click("Form4.Text1");
         await this.type("Form4.Text1", name);
         await this.key("Form4.Text1", "Enter");

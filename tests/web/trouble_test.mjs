@@ -28,7 +28,8 @@ for (const [name, spoil, sentence] of [
         const server = await serve(site, (file, bytes) => file === name && !mended ? spoil(bytes) : bytes);
         scene.after(() => server.stop());
         const tab = await browser.open(server.address, { shows: "#trouble:not([hidden]), #message-box:not([hidden])" });
-        if (await tab.$("#message-box:not([hidden])")) await tab.keyboard.press("Enter");  // the program itself says what is wrong with its story
+        // The program itself says first what is wrong with its story.
+        if (await tab.$("#message-box:not([hidden])")) await tab.keyboard.press("Enter");
         await tab.waitForSelector(trouble.shows);
         assert.match(await told(tab), sentence);
         mended = true;

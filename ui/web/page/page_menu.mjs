@@ -129,7 +129,9 @@ export class PageMenu {
             this.#header.classList.toggle("telling", text !== "");
             if (hint) this.#notice.append(newButton("Rozumím", () => this.#forgetHint()));
         }
-        this.#where.textContent = warning || "Ve hře je načtete slovesem Nahraj pozici. Uchovává je tento prohlížeč: když se jeho data vymažou, zmizí i ony; zálohou je stažený soubor.";
+        this.#where.textContent = warning ||
+            "Ve hře je načtete slovesem Nahraj pozici. Uchovává je tento prohlížeč: když se jeho data vymažou, zmizí i ony; " +
+            "zálohou je stažený soubor.";
         const names = this.#savedGames.names();
         this.#all.disabled = names.length === 0;
         this.#list.replaceChildren(...names.map((name) => this.#newRow(name)));
