@@ -12,23 +12,24 @@ constexpr std::string_view Welcome =
 constexpr std::string_view Farewell = ". Přeji hezký den.";
 
 constexpr auto Folders = std::to_array<std::string_view>({
-    "SLOŽKA 1: Ve vesmíru bylo objeveno mnoho materiálů, které se nevyskytují ve Sluneční soustavě. Lumelit svítí ještě sto "
-    "let po vytěžení a značí se jím nouzové východy. Z feridu, kovu tažného jako těsto, se dělají lana jeřábů a v lepších "
-    "domácnostech i příbory. Nejvzácnější je však rezonit, krystal nacházený na měsících bez ovzduší. Zasáhne-li jej iontový "
-    "impuls, rozezní se a svůj tón vnutí každému tuhému tělesu, ke kterému je připevněn, dokud se toto těleso nerozpadne na "
-    "prach. Sám krystal přitom zůstane bez vady. Zbraň založená na tomto jevu, takzvaná seismická bomba, existuje pouze v "
-    "teorii. Podle výpočtů by účinkovala, jen kdyby ji někdo pevně upnul k nejtužší části stavby, a čím by stavba byla větší "
-    "a tužší, tím hůř by dopadla. Ve vakuu, kde by se ničeho nedotýkala, by byla zcela neškodná. Po natažení roznětky by se "
-    "již odpálení nedalo nijak odvolat. Žádná armáda takovou zbraň nevlastní, což všechny armády již opakovaně potvrdily.",
+    "SLOŽKA 1: Ve vesmíru bylo objeveno mnoho materiálů, které se nevyskytují ve Sluneční soustavě. Lumelit svítí sto let po "
+    "vytěžení a značí se jím nouzové východy. Z feridu se dělají lana jeřábů a v lepších domácnostech i příbory. "
+    "Nejvzácnější je však rezonit, krystal nacházený na měsících bez ovzduší. Zasáhne-li jej iontový impuls, rozezní se a "
+    "svůj tón vnutí každému tuhému tělesu, ke kterému je připevněn, dokud se toto těleso nerozpadne na prach. Sám krystal "
+    "přitom zůstane bez vady, lze jej použít znovu a vydrží věky. Zbraň založená na tomto jevu, takzvaná seismická bomba, "
+    "existuje pouze v teorii. Podle výpočtů by účinkovala, jen kdyby ji někdo pevně upnul k nejtužší části stavby, a čím by "
+    "stavba byla větší a tužší, tím hůř by dopadla. Ve vakuu, kde by se ničeho nedotýkala, by byla neškodná a otřásla by "
+    "leda sebou. Natažená roznětka by se už nedala odjistit. Žádná armáda takovou zbraň nevlastní, což všechny armády "
+    "opakovaně potvrdily.",
 
     "SLOŽKA 2: Tato složka byla vybrána ze záznamů knihy „Třikrát o hranici“ od Irmy Daskal. S Iškary se lidé setkali na "
     "okraji osídlených světů a jedenáct let je pokládali za přírodní úkaz. O jejich vzhledu víme jen z doslechu: jedni "
     "svědkové uvádějí čtyři končetiny, druzí šest a třetí odmítli vypovídat. O hranici jsme s nimi vedli tři války, z nichž "
     "každou zahájilo nedorozumění a každou ukončilo vyčerpání. V té třetí zmizela u Kassary celá stanice a obě strany shodně "
-    "popřely, že by k něčemu takovému měly prostředky. Společné vyšetřování se nekonalo, nebylo co ohledávat. Od té doby "
-    "trvá příměří, letos již čtrnáct let. Mezi oběma říšemi leží pásmo klidu a v jeho středu postavily obě strany společně "
-    "stanici Meridián, každá svou polovinu podle svých norem, takže uprostřed nenavazují podlahy ani hodiny. Kniha končí "
-    "větou: „Čtvrtá válka by potřebovala jedinou loď ztracenou na pravém místě.“",
+    "popřely, že by k něčemu takovému měly prostředky. Nevyšetřovalo se, nebylo co ohledávat, a jména posádky nikdo "
+    "nevyhlásil. Příměří trvá již čtrnáct let. Mezi oběma říšemi leží pásmo klidu a v jeho středu postavily obě strany "
+    "společně stanici Meridián, každá svou polovinu podle svých norem, takže uprostřed nenavazují podlahy ani hodiny. Kniha "
+    "končí větou: „Čtvrtá válka by potřebovala jedinou loď ztracenou na pravém místě.“",
 
     "SLOŽKA 3: Člověk se dostal za hranice Sluneční soustavy. Umožnily mu to objevy dvou vědců. Jonas Orbeth zjistil, jak "
     "kolem tělesa přehnout cestu prostorem, Valen Tiroš přišel na to, čím takový přehyb napájet, a sestrojil jádro, jaké má "
@@ -42,7 +43,7 @@ constexpr auto Folders = std::to_array<std::string_view>({
 
     "SLOŽKA 4: Vesmírné lodě dnešní doby využívají kvůli bezpečnosti ty nejdokonalejší technologie. Dveře společných prostor "
     "jsou samočinné, ostatní chrání zámky a číselníky. Teplotu v místnostech sledují tepelné snímače. Jádro je zavěšeno v "
-    "jediném tuhém loži, takže jím nemůže nic otřást. Hangár je od ostatních prostor oddělen branou odolnou i proti ohni. "
+    "jediném tuhém loži, takže jím nemůže nic otřást. Hangár je od prázdna oddělen ocelovou branou, odolnou i proti ohni. "
     "Vstup do strojovny hlídají stráže a povoluje jej pouze pověření. K naléhavým případům slouží nouzové volání po "
     "terminálech: volání na můstek má přednost a i kapitán je musí uposlechnout, jakmile na můstku svítí závada, třeba "
     "otevřený panel u jádra; jinak je smí pokládat za omyl. Nehoda je tak prakticky vyloučena; ty, co se přesto staly, se "
