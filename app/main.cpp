@@ -12,8 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The folder that the program was called in, so that a link to it may stand among a player's own data; a link that stands alone leads
-// to the program's real folder.
+// The folder of the name that the program was called by, if it has data, because an installed game stands as a link among each player's
+// own data. Otherwise the folder of the program's file, to which the link leads.
 fs::path ProgramFolder(std::string_view calledAs) {
     if (calledAs.find('/') != std::string_view::npos) {
         const fs::path folder = fs::absolute(calledAs).parent_path();
@@ -25,8 +25,8 @@ fs::path ProgramFolder(std::string_view calledAs) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (const auto reason = ui::qt::WhyNoScreen()) {
-        std::cerr << *reason << '\n';
+    if (const auto whyNot = ui::qt::ChoosePlatform()) {
+        std::cerr << *whyNot << '\n';
         return 1;
     }
     const fs::path folder = ProgramFolder(argv[0]);
@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
         Main(game, folder);
     } catch (const ui::GameError& error) {
         windows.BusyPointer = false;
-        desktop.ShowMessageBox(error.what(), "Chyba");
+        desktop.ShowMessageBox(error.what(), ui::ErrorTitle);
         return 1;
     }
     desktop.Run();

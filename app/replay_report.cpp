@@ -80,7 +80,7 @@ std::string StateReport(const GameState& state) {
                    {"TerminalMailbox", state.TerminalMailbox},
                    {"GameOver", state.GameOver},
                    {"DoorCode", state.DoorCode}};
-    for (const StoryFlag& flag : StoryFlags()) report[std::string(flag.Name)] = state.*flag.Value;
+    for (const StoryFlag& flag : StoryFlags) report[std::string(flag.Name)] = state.*flag.Value;
     return Compact(report);
 }
 

@@ -1,5 +1,5 @@
 // The event language of the headless player: one event a line, carried out on the desktop without a screen.
-// `click FORM.LIST` names an entry by its text, of which the first counts, or by its index from 0; a number is always an index.
+// `click FORM.LIST` names an entry by its index from 0 or by its text, of which the first entry counts; a number is always an index.
 #pragma once
 
 #include <deque>

@@ -21,7 +21,7 @@ void ConnectWindows(Game& game) {
     ConnectForm2(game);
     ConnectForm3(game);
     ConnectForm4(game);
-    // A click on the backdrop leads back to the game.
+    // Because a click on the backdrop is to lead back to the game.
     game.windows.Form5.Window.GotFocus = [&game] { ui::GiveFocus(game.windows, game.windows.Form1.Window); };
 }
 
@@ -58,7 +58,7 @@ RandomSource SeededRandom() {
 }
 
 void Main(Game& game, const std::filesystem::path& appPath) {
-    // A file that may not grow is told like a full disk; the signal would kill the game.
+    // With the signal ignored, a write beyond the limit of a file's size fails like one on a full disk, instead of killing the game.
     std::signal(SIGXFSZ, SIG_IGN);
     ConnectWindows(game);
     game.windows.BusyPointer = true;
@@ -66,8 +66,8 @@ void Main(Game& game, const std::filesystem::path& appPath) {
     WarnOfMissingFont(game);
     game.texts = PrepareTextStore(appPath);
     BuildSectors(game.state.Sectors);
-    game.state.PlayerX = 5;
-    game.state.PlayerY = 3;
+    StandIn(game.state, sector::Cabin);
+    game.state.CurrentSector = sector::None;  // until the introduction has been read
     ShowStoryText(game, Introduction, Output::Replace);
     DressWindows(game.windows, appPath / "data" / "pics");
     game.windows.BusyPointer = false;

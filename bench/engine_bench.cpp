@@ -1,5 +1,5 @@
 // The engine without a screen: turns, views, replies, texts, saved games and a whole game from a script.
-// What changes nothing that lasts is measured over and over on one game; the output box fills and is emptied as in real play.
+// Turns that leave the game as it was are measured over and over on one game; the output box fills and is emptied as in real play.
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <spawn.h>
@@ -71,12 +71,6 @@ struct RunningGame {
         Run();
     }
 
-    void StandIn(std::int16_t sector) {
-        game.state.CurrentSector = sector;
-        game.state.PlayerX = game.state.Sectors[sector].X;
-        game.state.PlayerY = game.state.Sectors[sector].Y;
-    }
-
     void FillOutput(int lines) {
         std::string text = "Jsi ve své kajutě.";
         while (lines-- > 1) text += "\r\nMůžeš jít na sever, jih.";
@@ -101,7 +95,7 @@ void MeasureTurns(benchmark::State& measured, int count, Turns turns) {
 
 void GoThereAndBack(benchmark::State& measured) {
     RunningGame game;
-    game.StandIn(sector::Crossing);
+    StandIn(game.game.state, sector::Crossing);
     for (auto _ : measured) {
         game.Turn("Jdi", "na západ");
         game.Turn("Jdi", "na východ");
@@ -111,7 +105,7 @@ void GoThereAndBack(benchmark::State& measured) {
 
 void ViewRedrawn(benchmark::State& measured) {
     RunningGame game;
-    game.StandIn(sector::Laboratory);
+    StandIn(game.game.state, sector::Laboratory);
     for (auto _ : measured) DescribeSector(game.game, sector::Laboratory, Output::Replace);
 }
 

@@ -29,7 +29,7 @@ install(FILES packaging/orvel-tavoren.metainfo.xml DESTINATION share/metainfo ${
 install(FILES docs/pruvodce.md docs/navod.md packaging/copyright LICENSES/CC-BY-SA-4.0.txt DESTINATION share/doc/orvel-tavoren ${in_package})
 install(DIRECTORY docs/obrazky DESTINATION share/doc/orvel-tavoren ${in_package})
 
-# What lies compressed in a package has no time in it, so that builds are reproducible.
+# Compressed files are made without a time stamp, so that builds are reproducible.
 set(changelog ${PROJECT_BINARY_DIR}/changelog.gz)
 add_custom_command(OUTPUT ${changelog}
     COMMAND gzip --best --no-name --stdout packaging/changelog > ${changelog}
@@ -47,7 +47,8 @@ foreach(language . cs)
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
         VERBATIM)
     list(APPEND pages ${page})
-    install(FILES ${page} DESTINATION share/man/${language}/man6 ${in_package})
+    cmake_path(SET section NORMALIZE share/man/${language}/man6)
+    install(FILES ${page} DESTINATION ${section} ${in_package})
 endforeach()
 add_custom_target(manual ALL DEPENDS ${pages})
 

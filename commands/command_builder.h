@@ -3,6 +3,7 @@
 
 #include "core/game.h"
 
+// Also fills the two lists that a new game shows filled.
 void ConnectForm1(Game& game);
 
 // Appends what the chosen verb can be done with.

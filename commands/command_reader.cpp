@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view VersionLine = "Verze programu: 1.0.42 (v1.01)";
 
-// The list offers the open ways, or a single entry that is none.
+// The list offers the open ways in the same order, or a single entry that stands for none.
 Direction ChosenDirection(const Game& game) {
     const auto offered = OpenWays(game.state.Sectors[game.state.CurrentSector]);
     const auto chosen = static_cast<std::size_t>(game.windows.Form1.List2[1].Selected());
@@ -24,7 +24,7 @@ void RunObjectVerb(Game& game) {
     const ui::MainWindow& form = game.windows.Form1;
     const GameState& state = game.state;
     const ui::ListBox& offered = state.CommandVerb == verb::Put ? form.List1 : form.List2[1];
-    if (offered.Entry(0) == ui::NothingThere) return;
+    if (offered.Entry(0) == NothingThere) return;
 
     const Item object{state.CommandObject};
     switch (state.CommandVerb) {
@@ -48,7 +48,7 @@ void RunVerb(Game& game) {
         case verb::Load:
         case verb::Save: return OpenSystemPanel(game);
         case verb::Version: return WriteOutput(game, VersionLine);
-        case verb::Exit: UnloadForm1(game);
+        case verb::Exit: return UnloadForm1(game);
         default: return RunObjectVerb(game);
     }
 }

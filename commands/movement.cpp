@@ -6,6 +6,8 @@
 #include "core/carrying.h"
 #include "core/sector_items.h"
 #include "core/stages.h"
+#include "interactions/doors.h"
+#include "terminal/terminal_directory.h"
 
 namespace {
 
@@ -22,24 +24,6 @@ enum : TextNumber {
     CaptainReturns = 218,
 };
 
-struct Door {
-    std::int16_t OneSide;
-    Boolean SectorRecord::*OneExit;
-    std::int16_t OtherSide;
-    Boolean SectorRecord::*OtherExit;
-    Boolean GameState::*Open;
-};
-
-// They close when the player enters either sector.
-constexpr auto SelfClosingDoors = std::to_array<Door>({
-    {sector::Cabin, &SectorRecord::North, sector::Corridor, &SectorRecord::South, &GameState::CabinDoorOpen},
-    {sector::LabCorridor, &SectorRecord::West, sector::Laboratory, &SectorRecord::East, &GameState::LabDoorOpen},
-    {sector::CaptainsCabin, &SectorRecord::South, sector::EastEnd, &SectorRecord::North, &GameState::CaptainDoorOpen},
-    {sector::WestEnd, &SectorRecord::South, sector::GuestCabin, &SectorRecord::North, &GameState::SecondCabinDoorOpen},
-    {sector::EngineRoom, &SectorRecord::South, sector::Office, &SectorRecord::North, &GameState::OfficeDoorOpen},
-    {sector::LabCorridor, &SectorRecord::East, sector::InnerRoom, &SectorRecord::West, &GameState::KeypadDoorOpen},
-});
-
 void Step(GameState& state, Direction direction) {
     state.PlayerX = static_cast<std::int16_t>(state.PlayerX + WayTo(direction).X);
     state.PlayerY = static_cast<std::int16_t>(state.PlayerY + WayTo(direction).Y);
@@ -48,14 +32,14 @@ void Step(GameState& state, Direction direction) {
 }
 
 void CloseDoorsBehindPlayer(GameState& state) {
-    for (const Door& door : SelfClosingDoors) {
-        if (state.CurrentSector != door.OneSide && state.CurrentSector != door.OtherSide) continue;
-        state.Sectors[door.OneSide].*door.OneExit = False;
-        state.Sectors[door.OtherSide].*door.OtherExit = False;
+    const auto isHere = [&](const DoorSide& side) { return side.Sector == state.CurrentSector; };
+    for (const Door& door : Doors()) {
+        if (door.Hinges != Hinge::FallsShut || !std::ranges::any_of(door.Sides, isHere)) continue;
         state.*door.Open = False;
+        for (const DoorSide& side : door.Sides) state.Sectors[side.Sector].*side.Exit = False;
     }
     if (state.CurrentSector == sector::CaptainsCabin || state.CurrentSector == sector::EastEnd) {
-        // The attendant shuts the mesh door again; from the back room it still lets one out.
+        // The attendant shuts the mesh door again, but leaves the exit of the back room open, so that the player can come out.
         state.Sectors[sector::Store].South = False;
         state.WireDoorOpen = False;
     }
@@ -77,7 +61,7 @@ void NoteArrival(GameState& state) {
     }
     if (state.CurrentSector == sector::InnerRoom && state.Sector7Visited == False) {
         state.Sector7Visited = True;
-        state.TerminalMailbox[4] = 0;
+        state.TerminalMailbox[TerminalIndexOf(Item::InnerRoomTerminal)] = 0;
     }
 }
 

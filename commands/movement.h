@@ -3,5 +3,5 @@
 
 #include "core/game.h"
 
-// The exits are not asked: only open ones are offered as directions.
+// Does not ask whether the exit is open, because the main window offers only open ones as directions.
 void MovePlayer(Game& game, Direction direction);

@@ -6,10 +6,11 @@
 
 #include "core/output.h"
 #include "core/sector_items.h"
+#include "core/verbs.h"
 
 namespace {
 
-// Puts the last carried item into the slot that falls empty.
+// The last carried item moves into the slot, so that no gap stays among the carried ones.
 void EmptySlot(std::span<std::int16_t> inventory, std::int16_t& slot) {
     const auto firstEmpty = std::ranges::find(inventory, NumberOf(Item::Nothing));
     const auto last = firstEmpty == inventory.begin() ? firstEmpty : firstEmpty - 1;
@@ -55,5 +56,5 @@ void RefreshInventoryList(Game& game) {
     for (const std::int16_t item : game.state.Inventory) {
         if (item > NumberOf(Item::Nothing)) list.Append(ItemName(Item{item}));
     }
-    if (list.Entries().empty()) list.Append(ui::NothingThere);
+    if (list.Entries().empty()) list.Append(NothingThere);
 }

@@ -126,8 +126,8 @@ constexpr std::int16_t NumberOf(Item item) {
     return static_cast<std::int16_t>(item);
 }
 
-// The form that follows a verb; empty for a number that stands for no item.
+// The Czech word in the form that follows a verb; empty for a number that stands for no item.
 std::string_view ItemName(Item item);
 
-// Whether the player can take it and put it down. What he may take when is up to the story.
+// Whether the player can take the item and put it down. The story may still forbid it for a while (interactions/take_put.cpp).
 bool IsPortable(Item item);

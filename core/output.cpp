@@ -1,6 +1,6 @@
 #include "core/output.h"
 
-#include <iostream>
+#include <cstdio>
 
 namespace {
 
@@ -18,7 +18,7 @@ void WriteOutput(Game& game, std::string_view message) {
 void ShowStoryText(Game& game, TextNumber number, Output output) {
     const auto text = game.texts.Text(number);
     if (!text) {
-        std::cerr << "orvel-tavoren: no story text has the number " << number << '\n';
+        std::fprintf(stderr, "orvel-tavoren: no story text has the number %d\n", number);
         return;
     }
     ui::TextBox& box = game.windows.Form1.Text1;

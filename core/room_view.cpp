@@ -15,7 +15,7 @@ std::string ItemsLine(const SectorRecord& record) {
     return line;
 }
 
-// The order of the view; the direction list of the main window has another.
+// The view names the exits in this order; the direction list of the main window has the order of Ways.
 std::string ExitsLine(const SectorRecord& record) {
     std::string names;
     for (const Direction direction : {Direction::North, Direction::South, Direction::West, Direction::East}) {

@@ -10,7 +10,7 @@ using enum Item;
 
 struct StartingSector {
     std::int16_t X, Y;
-    std::string_view Exits;  // the initials of the open ones
+    std::string_view Exits;  // the initials of the directions that are open at the start
     std::initializer_list<Item> Items;
 };
 

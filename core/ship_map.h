@@ -28,7 +28,7 @@ struct SectorRecord {
 
 enum class Direction : std::int16_t { North, South, East, West, None };
 
-// What it takes to leave a sector in a direction, and the step on the map.
+// A direction with its Czech name, the exit that must be open for it, and the step on the map.
 struct Way {
     Direction Towards;
     std::string_view Name;

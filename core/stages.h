@@ -7,7 +7,7 @@ namespace GameStage {
 enum : std::int16_t { Title, Introduction, Running };
 }
 
-// The message about the replicator and the one about the old door; both wait at every terminal.
+// Of the message about the replicator and of the one about the old door, which can be read at every terminal.
 namespace MessageState {
 enum : std::int16_t { None, Waiting, Read };
 }

@@ -19,11 +19,12 @@ public:
     WordReader(std::span<const std::uint8_t> file, std::string damaged) : rest(file), sentence(std::move(damaged)) {}
 
     std::int16_t Take();
-    std::size_t TakeLength();  // one that the rest of the file can hold, a word an element
+    std::size_t TakeLength();  // a count of words that follow; refuses one that the rest of the file cannot hold
 
-    // The characters' codes in Windows-1250 plus a key.
+    // Takes as many characters, each stored as its code in Windows-1250 plus the key.
     std::string TakeText(std::size_t length, std::int16_t key);
 
+    // Says that the file is damaged.
     [[noreturn]] void Refuse() const;
 
 private:

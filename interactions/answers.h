@@ -18,7 +18,7 @@ inline void Remove(Game& game, Item item) {
     RemoveItemFromSector(game, game.state.CurrentSector, item, Redraw::Yes);
 }
 
-// True for the first call, which sets the flag. A loaded game may hold any other value for a flag that is set.
+// True for the first call, which sets the flag. Every value but False counts as set, because a loaded game may hold any.
 inline bool FirstTime(Boolean& flag) {
     if (flag != False) return false;
     flag = True;

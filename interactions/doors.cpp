@@ -3,6 +3,7 @@
 namespace {
 
 using enum Item;
+using enum Hinge;
 using State = GameState;
 using Exits = SectorRecord;
 
@@ -14,33 +15,40 @@ constexpr std::string_view OpenedOffice = "Otevřel jsi dveře do kanceláře...
 constexpr std::string_view OpenedWire = "Otevřel jsi drátěné dveře do skladu...", ClosedWire = "Zavřel jsi drátěné dveře od skladu...";
 constexpr std::string_view ClosedCabin = "Zavřel jsi dveře od své kajuty...";
 
-// clang-format off: a side a line
-constexpr auto Sides = std::to_array<DoorSide>({
-    {CabinDoorInside, &State::CabinDoorOpen, sector::Cabin, &Exits::North, &State::CabinDoorUnlocked, "Otevřel jsi dveře od své kajuty...",
-     ClosedCabin},
-    {CabinDoorOutside, &State::CabinDoorOpen, sector::Corridor, &Exits::South, &State::CabinDoorUnlocked,
-     "Otevřel jsi dveře do své kajuty...", ClosedCabin},
-    {BathroomDoorOutside, &State::BathroomDoorOpen, sector::Cabin, &Exits::South, nullptr, "Otevřel jsi dveře do koupelny...",
-     "Zavřel jsi dveře do koupelny...", "Dveře do koupelny jsou již otevřené!", "Dveře do koupelny jsou již zavřené!"},
-    {BathroomDoorInside, &State::BathroomDoorOpen, sector::Bathroom, &Exits::North, nullptr, "Otevřel jsi dveře do kajuty...",
-     "Zavřel jsi dveře do kajuty...", "Dveře do kajuty jsou již otevřené!", "Dveře do kajuty jsou již zavřené!"},
-    {KeypadDoorOutside, &State::KeypadDoorOpen, sector::LabCorridor, &Exits::East, &State::KeypadDoorUnlocked, DoorOpened, DoorClosed},
-    {KeypadDoorInside, &State::KeypadDoorOpen, sector::InnerRoom, &Exits::West, &State::KeypadDoorUnlocked, DoorOpened, DoorClosed},
-    {LabDoorOutside, &State::LabDoorOpen, sector::LabCorridor, &Exits::West, nullptr, OpenedLab, ClosedLab},
-    {LabDoorInside, &State::LabDoorOpen, sector::Laboratory, &Exits::East, nullptr, OpenedLab, ClosedLab},
-    {GuestCabinDoorOutside, &State::SecondCabinDoorOpen, sector::WestEnd, &Exits::South, nullptr, OpenedGuest, ClosedGuest},
-    {GuestCabinDoorInside, &State::SecondCabinDoorOpen, sector::GuestCabin, &Exits::North, nullptr, OpenedGuest, ClosedGuest},
-    {CaptainDoorOutside, &State::CaptainDoorOpen, sector::EastEnd, &Exits::North, nullptr, OpenedCaptain, ClosedCaptain},
-    {CaptainDoorInside, &State::CaptainDoorOpen, sector::CaptainsCabin, &Exits::South, nullptr, OpenedCaptain, ClosedCaptain},
-    {OfficeDoorOutside, &State::OfficeDoorOpen, sector::EngineRoom, &Exits::South, &State::OfficeDoorUnlocked, OpenedOffice, ClosedOffice},
-    {OfficeDoorInside, &State::OfficeDoorOpen, sector::Office, &Exits::North, &State::OfficeDoorUnlocked, OpenedOffice, ClosedOffice},
-    {WireDoorOutside, &State::WireDoorOpen, sector::Store, &Exits::South, &State::WireDoorUnlocked, OpenedWire, ClosedWire},
-    {WireDoorInside, &State::WireDoorOpen, sector::StoreBackRoom, &Exits::North, &State::WireDoorUnlocked, OpenedWire, ClosedWire},
+// A side a line.
+// clang-format off
+constexpr auto All = std::to_array<Door>({
+    {&State::CabinDoorOpen, &State::CabinDoorUnlocked, FallsShut, {{
+        {CabinDoorInside, sector::Cabin, &Exits::North, "Otevřel jsi dveře od své kajuty...", ClosedCabin},
+        {CabinDoorOutside, sector::Corridor, &Exits::South, "Otevřel jsi dveře do své kajuty...", ClosedCabin}}}},
+    {&State::BathroomDoorOpen, nullptr, Plain, {{
+        {BathroomDoorOutside, sector::Cabin, &Exits::South, "Otevřel jsi dveře do koupelny...", "Zavřel jsi dveře do koupelny...",
+         "Dveře do koupelny jsou již otevřené!", "Dveře do koupelny jsou již zavřené!"},
+        {BathroomDoorInside, sector::Bathroom, &Exits::North, "Otevřel jsi dveře do kajuty...", "Zavřel jsi dveře do kajuty...",
+         "Dveře do kajuty jsou již otevřené!", "Dveře do kajuty jsou již zavřené!"}}}},
+    {&State::KeypadDoorOpen, &State::KeypadDoorUnlocked, FallsShut, {{
+        {KeypadDoorOutside, sector::LabCorridor, &Exits::East, DoorOpened, DoorClosed},
+        {KeypadDoorInside, sector::InnerRoom, &Exits::West, DoorOpened, DoorClosed}}}},
+    {&State::LabDoorOpen, nullptr, FallsShut, {{
+        {LabDoorOutside, sector::LabCorridor, &Exits::West, OpenedLab, ClosedLab},
+        {LabDoorInside, sector::Laboratory, &Exits::East, OpenedLab, ClosedLab}}}},
+    {&State::SecondCabinDoorOpen, nullptr, FallsShut, {{
+        {GuestCabinDoorOutside, sector::WestEnd, &Exits::South, OpenedGuest, ClosedGuest},
+        {GuestCabinDoorInside, sector::GuestCabin, &Exits::North, OpenedGuest, ClosedGuest}}}},
+    {&State::CaptainDoorOpen, nullptr, FallsShut, {{
+        {CaptainDoorOutside, sector::EastEnd, &Exits::North, OpenedCaptain, ClosedCaptain},
+        {CaptainDoorInside, sector::CaptainsCabin, &Exits::South, OpenedCaptain, ClosedCaptain}}}},
+    {&State::OfficeDoorOpen, &State::OfficeDoorUnlocked, FallsShut, {{
+        {OfficeDoorOutside, sector::EngineRoom, &Exits::South, OpenedOffice, ClosedOffice},
+        {OfficeDoorInside, sector::Office, &Exits::North, OpenedOffice, ClosedOffice}}}},
+    {&State::WireDoorOpen, &State::WireDoorUnlocked, Plain, {{
+        {WireDoorOutside, sector::Store, &Exits::South, OpenedWire, ClosedWire},
+        {WireDoorInside, sector::StoreBackRoom, &Exits::North, OpenedWire, ClosedWire}}}},
 });
 // clang-format on
 
 }  // namespace
 
-std::span<const DoorSide> DoorSides() {
-    return Sides;
+std::span<const Door> Doors() {
+    return All;
 }

@@ -1,6 +1,8 @@
-// The ship's doors, a row for each side: opening one from a side makes that side's exit passable and leaves the other side as it is.
+// The ship's doors, a row each with the two sides from which a door is seen. Opening or closing a door changes the exit of the side where
+// the player stands and leaves the exit of the other side as it is.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 
@@ -10,14 +12,21 @@ constexpr std::string_view DoorOpened = "Otevřel jsi dveře...", DoorAlreadyOpe
 constexpr std::string_view DoorClosed = "Zavřel jsi dveře...", DoorAlreadyClosed = "Dveře jsou již zavřené!";
 
 struct DoorSide {
-    Item Side;
-    Boolean GameState::*Open;
+    Item Thing;
     std::int16_t Sector;
     Boolean SectorRecord::*Exit;
-    Boolean GameState::*Unlocked;  // null: it has no lock
     std::string_view Opened, Closed;
     std::string_view AlreadyOpen = DoorAlreadyOpen;
     std::string_view AlreadyClosed = DoorAlreadyClosed;
 };
 
-std::span<const DoorSide> DoorSides();
+enum class Hinge { Plain, FallsShut };  // a door falls shut as soon as the player enters either of its sectors
+
+struct Door {
+    Boolean GameState::*Open;
+    Boolean GameState::*Unlocked;  // null: it has no lock
+    Hinge Hinges;
+    std::array<DoorSide, 2> Sides;
+};
+
+std::span<const Door> Doors();

@@ -10,7 +10,7 @@ namespace {
 
 using enum Item;
 
-// The story goes on once this has been read or seen.
+// The story waits until the player has read or seen the thing.
 void TellAndNote(Game& game, TextNumber text, Boolean& seen) {
     Tell(game, text);
     seen = True;
@@ -65,7 +65,7 @@ void ExaminePlasmaSamples(Game& game) {
     Place(game, SampleDebadon);
 }
 
-// A thing that was found once is neither found nor made a second time.
+// Whether the item is carried or lies in any sector. A thing that was found once must not be made a second time.
 bool IsInTheGame(const GameState& state, Item item) {
     return IsCarried(state, item) ||
            std::ranges::any_of(state.Sectors.All(), [&](const SectorRecord& each) { return HoldsItem(each, item); });

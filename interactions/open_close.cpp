@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 
 #include "core/stages.h"
 #include "interactions/answers.h"
@@ -20,7 +21,7 @@ enum : TextNumber {
     ContainerFound = 204,
 };
 
-// The story's own objection, told before the lock is tried or the door found open.
+// The text by which the story forbids the opening. It comes before the door's own answers, that it is locked or already open.
 std::optional<TextNumber> WhyNotOpened(const GameState& state, Item item) {
     switch (item) {
         case CaptainDoorOutside:
@@ -38,31 +39,39 @@ std::optional<TextNumber> WhyNotOpened(const GameState& state, Item item) {
     }
 }
 
-bool SomebodyWaitsBehind(const GameState& state, const DoorSide& door) {
+bool SomebodyWaitsBehind(const GameState& state, const Door& door) {
     return door.Open == &GameState::KeypadDoorOpen && state.CalledAwayState == CalledAwayStage::Inside;
 }
 
-void OpenDoor(Game& game, const DoorSide& door) {
+// A door and the side of it that the player sees.
+struct Doorway {
+    const Door& Which;
+    const DoorSide& From;
+};
+
+void OpenDoor(Game& game, const Doorway& doorway) {
     GameState& state = game.state;
+    const auto& [door, side] = doorway;
     if (door.Unlocked != nullptr && state.*door.Unlocked == False) return WriteOutput(game, "Dveře jsou zamčené!");
-    if (state.*door.Open == True) return WriteOutput(game, door.AlreadyOpen);
+    if (state.*door.Open == True) return WriteOutput(game, side.AlreadyOpen);
     if (SomebodyWaitsBehind(state, door)) {
         Tell(game, SomebodyWasInside);
         state.GameOver = True;
         return;
     }
     state.*door.Open = True;
-    state.Sectors[door.Sector].*door.Exit = True;
-    WriteOutput(game, door.Opened);
+    state.Sectors[side.Sector].*side.Exit = True;
+    WriteOutput(game, side.Opened);
     RefreshSector(game);
 }
 
-void CloseDoor(Game& game, const DoorSide& door) {
+void CloseDoor(Game& game, const Doorway& doorway) {
     GameState& state = game.state;
-    if (state.*door.Open == False) return WriteOutput(game, door.AlreadyClosed);
+    const auto& [door, side] = doorway;
+    if (state.*door.Open == False) return WriteOutput(game, side.AlreadyClosed);
     state.*door.Open = False;
-    state.Sectors[door.Sector].*door.Exit = False;
-    WriteOutput(game, door.Closed);
+    state.Sectors[side.Sector].*side.Exit = False;
+    WriteOutput(game, side.Closed);
     RefreshSector(game);
 }
 
@@ -92,7 +101,8 @@ void OpenReceptacle(Game& game, const Receptacle& receptacle) {
     WriteOutput(game, receptacle.Opened);
 }
 
-// What was found inside but not taken is out of sight again. The view is shown even when nothing was found.
+// What the player has found in the receptacle but not taken is out of sight again. The view is shown even when there was nothing, because
+// removing an item shows it whether the item was there or not.
 void HideContents(Game& game, Item receptacle) {
     if (receptacle == CabinWardrobe) {
         game.state.UniformPlaced = False;
@@ -108,9 +118,13 @@ void CloseReceptacle(Game& game, const Receptacle& receptacle) {
     HideContents(game, receptacle.Thing);
 }
 
-const DoorSide* FindDoor(Item item) {
-    const auto door = std::ranges::find(DoorSides(), item, &DoorSide::Side);
-    return door == DoorSides().end() ? nullptr : &*door;
+std::optional<Doorway> FindDoor(Item item) {
+    for (const Door& door : Doors()) {
+        for (const DoorSide& side : door.Sides) {
+            if (side.Thing == item) return Doorway{door, side};
+        }
+    }
+    return std::nullopt;
 }
 
 const Receptacle* FindReceptacle(Item item) {
@@ -124,7 +138,7 @@ void DoOpen(Game& game, Item item) {
     if (item == DiningHallDoorOutside || item == DiningHallDoorInside) return Tell(game, SlidesByItself);
     if (item == OldDoor) return OpenOldDoor(game);
     if (const auto objection = WhyNotOpened(game.state, item)) return Tell(game, *objection);
-    if (const DoorSide* door = FindDoor(item)) return OpenDoor(game, *door);
+    if (const auto door = FindDoor(item)) return OpenDoor(game, *door);
     if (const Receptacle* receptacle = FindReceptacle(item)) return OpenReceptacle(game, *receptacle);
     WriteOutput(game, "Toto se nedá otevřít!");
 }
@@ -132,7 +146,7 @@ void DoOpen(Game& game, Item item) {
 void DoClose(Game& game, Item item) {
     if (item == DiningHallDoorOutside || item == DiningHallDoorInside) return Tell(game, SlidesByItself);
     if (item == OldDoor) return CloseOldDoor(game);
-    if (const DoorSide* door = FindDoor(item)) return CloseDoor(game, *door);
+    if (const auto door = FindDoor(item)) return CloseDoor(game, *door);
     if (const Receptacle* receptacle = FindReceptacle(item)) return CloseReceptacle(game, *receptacle);
     WriteOutput(game, "Toto se nedá zavřít!");
 }

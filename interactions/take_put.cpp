@@ -11,7 +11,7 @@ void LeaveUniform(Game& game) {
     Tell(game, NotForThisShift);
 }
 
-// The two that change hands close or are remembered even when there is no room for them.
+// In the next two functions the flag changes even when TakeItem refuses because the inventory is full.
 void TakeBriefcase(Game& game) {
     TakeItem(game, Briefcase);
     game.state.BriefcaseOpen = False;

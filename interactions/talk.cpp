@@ -6,9 +6,9 @@ namespace {
 
 using enum Item;
 
-enum : TextNumber { NewsForTheHangar = 247 };  // the captain and the man in dark glasses say it together
+enum : TextNumber { NewsForTheHangar = 247 };  // told whether one asks the captain or the man in dark glasses
 
-// A person with a first answer and a later one.
+// Tells the first answer once, and the later one from then on.
 void TellFirstOrLater(Game& game, Boolean GameState::*told, TextNumber first, TextNumber later) {
     Tell(game, FirstTime(game.state.*told) ? first : later);
 }

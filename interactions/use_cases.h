@@ -1,5 +1,5 @@
-// What happens when one thing is used on another. Whoever calls these has seen to it that the used thing is carried where it must be.
-// A stage of the story that a case does not know gets the refusal.
+// What happens when one thing is used on another. DoUse calls these functions, after it has seen that the used thing is carried if it must
+// be. In a stage of the story that a function does not know it answers with Refuse.
 #pragma once
 
 #include "interactions/answers.h"

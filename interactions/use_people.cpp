@@ -26,10 +26,7 @@ void ShowAuthorisation(Game& game) {
     enum : TextNumber { LetsHimPass = 153 };
     GameState& state = game.state;
     Tell(game, LetsHimPass);
-    // The guard leads him in himself, so no door is asked and no step event waits.
-    state.PlayerX = 1;
-    state.PlayerY = 2;
-    state.CurrentSector = FindSector(state.Sectors, state.PlayerX, state.PlayerY);
+    StandIn(state, sector::EngineRoom);  // the guard leads the player in, so this is no step of his own
     RefreshSector(game);
     if (state.TechnicianCalled != False) return;
     AddItemToSector(game, sector::Crossing, Item::Technician, Redraw::No);

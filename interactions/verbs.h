@@ -1,5 +1,5 @@
 // The verbs that act on things and people. None of them asks where the item is: the player could only choose what he sees or carries.
-// Without a chosen object the item is -1, which answers like any item that a verb does not know.
+// When nothing was chosen the item is -1, and each verb answers as it does to any item that it does not know.
 #pragma once
 
 #include "core/game.h"

@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The name of a file that is being written; a program that was interrupted leaves it behind. Between the two stand the number of the
-// process and a count, so that two running games never write the same one.
+// A draft is a file that is being written. Its name has the number of the process and a count between these two, so that two running games
+// never write the same draft. A program that was interrupted leaves its draft behind.
 constexpr std::string_view DraftPrefix = ".saving-";
 constexpr std::string_view DraftSuffix = ".tmp";
 
@@ -33,8 +33,8 @@ public:
         if (descriptor >= 0) ::close(descriptor);
     }
 
-    // Held until the file is closed, which the end of a process does as well. False when another holds it; on a file system that knows
-    // no locks nobody does.
+    // False when another process holds the lock. The lock lasts until the file is closed, by the end of the process at the latest. On a
+    // file system without locks this is true, because nobody can hold one.
     bool Lock() { return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
 
     bool IsAt(const fs::path& path) const {
@@ -63,7 +63,8 @@ private:
     int descriptor;
 };
 
-// A lock tells that its writer lives. Vanishes unless it takes the place of the real file.
+// The lock on a draft tells other games that its writer is still alive. The draft is removed in the end unless it has taken the place of
+// the real file.
 class Draft {
 public:
     explicit Draft(const fs::path& folder) : file(Make(folder)) {}
@@ -90,10 +91,10 @@ private:
             path = folder / (std::string(DraftPrefix) + std::to_string(::getpid()) + '-' + std::to_string(count).append(DraftSuffix));
             try {
                 OpenFile made(path, O_WRONLY | O_CREAT | O_EXCL);
-                // Before it was locked, another game may have swept it.
+                // Another game may have swept the draft after it was made and before it was locked.
                 if (made.Lock() && made.IsAt(path)) return made;
             } catch (const std::system_error& error) {
-                // Games in containers may have the same number and share the folder.
+                // A draft of this name is there already when two games share the folder and, in containers of their own, a number.
                 if (error.code() != std::errc::file_exists || count >= MostTries) throw;
             }
         }
@@ -111,7 +112,7 @@ void SweepDrafts(const fs::path& folder) {
             OpenFile draft(path, O_RDONLY | O_NOFOLLOW);
             if (draft.Lock() && draft.IsAt(path)) ::unlink(path.c_str());
         } catch (const std::system_error&) {
-            // It has gone meanwhile, or somebody else's it stays.
+            // The draft has gone meanwhile, or it belongs to another user and stays.
         }
     }
 }
@@ -121,7 +122,7 @@ void SweepDrafts(const fs::path& folder) {
 void ReplaceFile(const fs::path& file, std::span<const std::uint8_t> bytes) {
     const fs::path path = file.parent_path();
     SweepDrafts(path);
-    OpenFile folder(path, O_RDONLY | O_DIRECTORY);  // while the old file is still there
+    OpenFile folder(path, O_RDONLY | O_DIRECTORY);  // first of all, because this may fail and the old file must then still be there
     Draft draft(path);
     draft.Write(bytes);
     draft.TakePlaceOf(file);

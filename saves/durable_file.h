@@ -8,13 +8,14 @@
 #include <system_error>
 #include <vector>
 
-// Replaces the file as a whole; afterwards the bytes are on the disk, not only on their way there. Throws system_error: the old file is
-// then as it was, but for a disk that fails at the very last step: the new one stands in its place, whole, and may be lost with the power.
+// Replaces the file as a whole; afterwards the bytes are on the disk, not only on their way there. Throws system_error. The old file is
+// then as it was, unless the last step failed, which flushes the folder: the new file then stands in its place, whole, but may be lost with
+// the power.
 void ReplaceFile(const std::filesystem::path& file, std::span<const std::uint8_t> bytes);
 
 // Throws system_error when the folder is not there and cannot be made.
 void MakeFolder(const std::filesystem::path& folder);
 
-// The names of the folder's files in the order of the directory; what cannot be looked at is left out. Throws system_error when the
+// The names of the folder's files in the order of the directory; files that cannot be looked at are left out. Throws system_error when the
 // folder itself cannot be read.
 std::vector<std::string> FilesIn(const std::filesystem::path& folder);

@@ -28,15 +28,20 @@ fs::path SavesFolder(const Game& game) {
     return game.state.AppPath / "data" / "saves";
 }
 
-bool IsSave(std::string_view fileName) {
+// The list goes by the last three characters alone.
+bool IsListed(std::string_view fileName) {
     return text::UpperAscii(text::LastChars(fileName, 3)) == "TVX" && text::CharCount(fileName) >= Extension.size();
+}
+
+bool HasExtension(std::string_view fileName) {
+    return text::UpperAscii(text::LastChars(fileName, Extension.size())) == Extension;
 }
 
 std::string_view SaveName(std::string_view fileName) {
     return fileName.substr(0, fileName.size() - text::LastChars(fileName, Extension.size()).size());
 }
 
-// A game from a system where names have no case may be there as "Game1.tvx".
+// Finds "Game1.tvx" too, which a system whose file names have no case may have made of the name.
 std::string FileName(const fs::path& folder, std::string_view name) {
     const std::string exact = std::string(name).append(Extension);
     const auto files = FilesIn(folder);
@@ -50,6 +55,14 @@ void RefusePath(std::string_view name) {
     using namespace std::string_view_literals;
     if (name.find_first_of("/\\\0"sv) != std::string_view::npos) {
         throw ui::GameError("Název pozice nesmí obsahovat lomítko ani nulový znak. Zvol prosím jiný.");
+    }
+}
+
+// For a name that no file "NAME.TVX" has.
+void RefuseMissingDot(const fs::path& folder, std::string_view name) {
+    for (const std::string& file : FilesIn(folder)) {
+        if (!IsListed(file) || SaveName(file) != name) continue;
+        throw ui::GameError("Soubor " + file + " nejde nahrát, protože mu chybí tečka před příponou. Přejmenuj ho prosím.");
     }
 }
 
@@ -76,7 +89,7 @@ std::string Explain(std::string_view what, const std::system_error& error) {
     return std::string(what).append(" ").append(Reason(error.code().value()));
 }
 
-// All that a saved game holds of the state, whatever its name.
+// What a saved game holds of the state; two states with the same contents are the same game, whatever the names of their files.
 Bytes Contents(const GameState& state) {
     return EncodeSave(state, "", {.Name = 0, .DoorCode = 0});
 }
@@ -84,9 +97,7 @@ Bytes Contents(const GameState& state) {
 GameState FirstState() {
     GameState state;
     BuildSectors(state.Sectors);
-    state.CurrentSector = sector::Cabin;
-    state.PlayerX = state.Sectors[sector::Cabin].X;
-    state.PlayerY = state.Sectors[sector::Cabin].Y;
+    StandIn(state, sector::Cabin);
     return state;
 }
 
@@ -112,8 +123,8 @@ std::vector<std::string> SaveNames(const Game& game) {
     try {
         MakeFolder(SavesFolder(game));
         for (const std::string& file : FilesIn(SavesFolder(game))) {
-            // The panel refuses "?": such a file is seen but never touched.
-            if (IsSave(file)) names.push_back(text::ReplaceForeignCharacters(SaveName(file)));
+            // The panel refuses "?", so a file with a foreign character in its name is listed but never loaded or overwritten.
+            if (IsListed(file)) names.push_back(text::ReplaceForeignCharacters(SaveName(file)));
         }
     } catch (const std::system_error& error) {
         throw ui::GameError(Explain("Uložené pozice se nepodařilo vypsat.", error));
@@ -142,8 +153,8 @@ bool HasUnsavedSteps(const Game& game) {
     try {
         const fs::path folder = SavesFolder(game);
         const auto files = FilesIn(folder);
-        return !std::ranges::any_of(files,
-                                    [&](const std::string& file) { return IsSave(file) && Holds(folder / file, contents, game.state); });
+        return !std::ranges::any_of(
+            files, [&](const std::string& file) { return HasExtension(file) && Holds(folder / file, contents, game.state); });
     } catch (const std::system_error&) {
         return true;
     }
@@ -155,13 +166,15 @@ void LoadGame(Game& game, std::string_view name) {
     Bytes file;
     try {
         const fs::path folder = SavesFolder(game);
-        file = ReadWholeFile(folder / FileName(folder, name), unreadable, MostSaveBytes);
+        const fs::path path = folder / FileName(folder, name);
+        if (!fs::exists(path)) RefuseMissingDot(folder, name);
+        file = ReadWholeFile(path, unreadable, MostSaveBytes);
     } catch (const std::system_error& error) {
         throw ui::GameError(Explain(unreadable, error));
     }
     auto loaded = DecodeSave(file, name, game.state);
     if (!loaded) {
-        game.desktop.ShowMessageBox(LoadError, "Chyba");
+        game.desktop.ShowMessageBox(LoadError, ui::ErrorTitle);
         UnloadForm1(game);
     }
     game.state = std::move(*loaded);

@@ -1,4 +1,6 @@
-// The saved games, one file each in data/saves of the program folder. File trouble is thrown as GameError before anything has changed.
+// The saved games, one file each in data/saves of the program folder. File trouble is thrown as GameError: the running game and the saved
+// games are then as they were, except when the disk fails in the last step of a save. The new game is then in its file, whole, but may be
+// lost when the machine loses power, or in a browser when the page is closed.
 #pragma once
 
 #include <string>
@@ -13,7 +15,7 @@ std::vector<std::string> SaveNames(const Game& game);
 // Replaces a game that was saved under the same name.
 void SaveGame(Game& game, std::string_view name);
 
-// Whether a game goes on that no saved game holds, so that leaving now would cost the player something. Neither throws nor waits.
+// Whether leaving now would cost the player something: the game goes on, and no saved game holds it as it is. Neither throws nor waits.
 bool HasUnsavedSteps(const Game& game);
 
 // Ends the program when the file holds a game that was saved under another name.

@@ -78,7 +78,7 @@ Bytes EncodeSave(const GameState& state, std::string_view name, SaveKeys keys) {
         writer.PutLength(state.Sectors[sector].Items.size());
         writer.PutAll(state.Sectors[sector].Items);
     }
-    for (const StoryFlag& flag : StoryFlags()) writer.Put(state.*flag.Value);
+    for (const StoryFlag& flag : StoryFlags) writer.Put(state.*flag.Value);
     writer.PutText(state.DoorCode, keys.DoorCode);
     writer.PutAll(state.TerminalMailbox);
     return std::move(writer).Written();
@@ -100,7 +100,7 @@ std::optional<GameState> DecodeSave(std::span<const std::uint8_t> file, std::str
     loaded.CurrentSector = reader.Take();
     if (!StandsInCurrentSector(loaded)) reader.Refuse();
     for (std::int16_t sector = 1; sector <= LastSector; ++sector) loaded.Sectors[sector].Items = TakeItems(reader);
-    for (const StoryFlag& flag : StoryFlags()) loaded.*flag.Value = reader.Take();
+    for (const StoryFlag& flag : StoryFlags) loaded.*flag.Value = reader.Take();
     loaded.DoorCode = TakeKeyedText(reader);
     TakeAll(reader, loaded.TerminalMailbox);
     return loaded;

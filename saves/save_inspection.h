@@ -6,10 +6,11 @@
 #include <string>
 
 struct Inspection {
-    enum class Finding { Sound, Damaged, TooLong, NameRefused };  // by the System Panel, so nobody could load it
+    // NameRefused: the System Panel takes no such name, so nobody could load the game.
+    enum class Finding { Sound, Damaged, TooLong, NameRefused };
     Finding Found;
-    std::string Name;  // under which it was saved and must be put; empty when it cannot be read
+    std::string Name;  // under which the game was saved and must be put into the folder; empty when it cannot be read
 };
 
-// Judges as a load under that name would. Neither throws nor waits.
+// Finds what loading the file under that name would find. Neither throws nor waits.
 Inspection InspectSave(std::span<const std::uint8_t> file);

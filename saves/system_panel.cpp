@@ -22,19 +22,27 @@ bool IsExit(std::string_view name) {
     return text::LowerAscii(name) == "exit";
 }
 
-// Refuses without a word; a save or load that fails throws and so leaves the panel open.
+std::string Called(const std::string& name) {
+    return name.empty() ? "Pozice bez názvu" : "Pozice „" + name + "“";
+}
+
+// The panel says nothing of a name that it refuses, nor of success. A save or load that fails throws, and so the panel stays open.
 void ReadCom(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     const std::string name = panel.Text1.Text();
-    if (HasForbiddenCharacter(name)) return;
+    if (HasForbiddenCharacter(name)) {
+        return game.desktop.ShowNotice("Název „" + name + "“ hra nepřijme: nesmí v něm být žádný ze znaků . , : ; \" ' & # $ ? *");
+    }
     if (IsExit(name)) return ui::Hide(panel.Window);
 
     if (game.state.CommandVerb == verb::Load) {
         const auto& saves = panel.List1.Entries();
-        if (std::ranges::find(saves, name) == saves.end()) return;
+        if (std::ranges::find(saves, name) == saves.end()) return game.desktop.ShowNotice(Called(name) + " tu není.");
         LoadGame(game, name);
+        game.desktop.ShowNotice(Called(name) + " je načtená.");
     } else {
         SaveGame(game, name);
+        game.desktop.ShowNotice(Called(name) + " je uložená.");
     }
     panel.Text1.SetText("");
     panel.Label1.SetTextColour(ui::Teal);
@@ -53,27 +61,28 @@ void List1_Click(Game& game) {
     panel.Text1.MoveCaretToEnd();
 }
 
-// The list has the focus when the panel opens: the player types the name all the same.
+// The list has the focus when the panel opens, so the keys of a player who types at once are passed on to the box.
 bool List1_KeyPress(Game& game, char32_t key) {
     ui::PressKey(game.windows, game.windows.Form4.Text1, key);
     return true;
 }
 
-}  // namespace
-
+// Empties the panel and fills its list.
 void ListSaves(Game& game) {
     std::vector<std::string> names;
     try {
         names = SaveNames(game);
     } catch (const ui::GameError& error) {
-        // Not thrown on: the panel is to open all the same, since what is wrong may be put right while it is there.
-        game.desktop.ShowMessageBox(error.what(), "Chyba");
+        // The panel opens all the same with an empty list, because the player may put right what is wrong while it is open.
+        game.desktop.ShowMessageBox(error.what(), ui::ErrorTitle);
     }
     ui::SystemWindow& panel = game.windows.Form4;
     panel.List1.Clear();
     panel.Text1.SetText("");
     for (const std::string& name : names) panel.List1.Append(name);
 }
+
+}  // namespace
 
 void OpenSystemPanel(Game& game) {
     ListSaves(game);

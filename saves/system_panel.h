@@ -7,14 +7,12 @@
 
 void ConnectForm4(Game& game);
 
-// Whether the panel takes the name, as far as its characters go.
+// Whether the panel takes the name. To load, it takes only names of its list besides.
 bool CanNameSave(std::string_view name);
 
-// Empties the panel and fills its list. Saved games that cannot be listed are told in a message box, the list then stays empty.
-void ListSaves(Game& game);
-
-// Lists the saved games and shows the panel; returns when it has been closed. CommandVerb says whether it loads or saves.
+// Lists the saved games and shows the panel; returns when it has been closed. CommandVerb says whether the panel loads or saves.
+// When the saved games cannot be listed, a message box says why and the list stays empty.
 void OpenSystemPanel(Game& game);
 
-// Lists anew when the panel is open, since files came or went behind its back. What is typed stays.
+// Lists the saved games anew if the panel is open. For a desktop where files come and go meanwhile. What is typed stays.
 void RenewSystemPanel(Game& game);

@@ -16,7 +16,7 @@ void EnterCode(Game& game) {
         form.Label1.SetCaption(Refused);
     } else if (state.KeypadDoorOpen == True) {
         form.Label1.SetCaption(Refused);
-        // The code stays, to be entered again once the door is shut.
+        // This answer alone leaves the code in the box.
         return WriteOutput(game, "Dveře jsou otevřené, proto nemohou být zamčeny!");
     } else if (state.KeypadDoorUnlocked == False) {
         form.Label1.SetCaption(Accepted);

@@ -1,4 +1,4 @@
-// The security keypad beside the door of the inner room: the right code locks and unlocks it.
+// The security keypad beside the door of the inner room: the right code locks and unlocks the door.
 #pragma once
 
 #include "core/game.h"

@@ -75,7 +75,8 @@ void ReplyNotFound(Game& game, std::string_view serialNumber) {
                std::string("Sériové číslo ").append(serialNumber).append(" nemohu nalézt v databázi sériových čísel terminálů této lodi!"));
 }
 
-// Files the message for the terminal of that number; True when the ship has none.
+// Despite its name this does more than check: it puts the message into the mailbox of the terminal with that number. It returns true when
+// the number is NOT found, which it also replies.
 bool CheckSN(Game& game, std::string_view serialNumber, Kind kind) {
     const auto terminal = FindTerminal(serialNumber);
     if (!terminal) {
@@ -102,7 +103,7 @@ void SendAlert(const Call& call) {
     const bool captainLeaves = IsTerminal(serialNumber, Item::CaptainTerminal) && state.BridgeAlertReady == True &&
                                state.CaptainAlertState == CaptainAlertStage::Calm;
     if (captainLeaves) {
-        // He reads it at once, so nothing waits in his mailbox.
+        // The captain reads the message at once, so none waits in his mailbox.
         state.CaptainAlertState = CaptainAlertStage::Alerted;
         RemoveItemFromSector(call.GameInPlay, sector::CaptainsCabin, Item::Captain, Redraw::No);
     } else if (CheckSN(call.GameInPlay, serialNumber, Bridge)) {
@@ -111,7 +112,7 @@ void SendAlert(const Call& call) {
     Confirm(call, serialNumber, Bridge);
 }
 
-// The occupant of the inner room answers one of the three, drawn when the door code was first changed.
+// The occupant of the inner room obeys only one of the three messages: the one that was drawn when the door code was first changed.
 void SendImportance(const Call& call, Kind kind) {
     GameState& state = call.GameInPlay.state;
     const std::string_view serialNumber = text::LastChars(call.Line, SerialNumberLength);
@@ -162,7 +163,7 @@ void ListArchive(const Call& call) {
 }
 
 void Ping(const Call& call) {
-    // Whatever stands after the command, normally a blank, is skipped.
+    // One character behind the command is skipped, whatever it is; normally it is a blank.
     const std::string_view serialNumber = text::DropChars(call.Line, std::string_view("ping ").size());
     GetText(call.GameInPlay, "Hledám cestu...");
     const auto terminal = FindTerminal(serialNumber);
@@ -184,7 +185,7 @@ struct Command {
     void (*Answer)(const Call&);
 };
 
-// The first that matches is run.
+// The first row that matches is run.
 constexpr auto Commands = std::to_array<Command>({
     {"read message", Match::Whole, ReadMessage},
     {"send alert", Match::Start, SendAlert},

@@ -14,6 +14,7 @@ constexpr auto Directory = std::to_array<TerminalEntry>({
     {Item::CaptainTerminal, "102-X89-3156", "102-X34-2597...102-X12-1478...102-X89-3156"},
     {Item::InnerRoomTerminal, "102-X94-5487", "102-X89-3156...102-X12-1478...102-X07-1001...102-X94-5487"},
 });
+static_assert(Directory.size() == TerminalCount);
 static_assert(Directory[LabTerminalIndex].Terminal == Item::LabTerminal);
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "core/items.h"
+#include "core/game_state.h"
 
 struct TerminalEntry {
     Item Terminal;

@@ -5,7 +5,7 @@
 
 #include "core/game.h"
 
-// Appends a reply as a paragraph of its own; the caret stays where it is.
+// Despite its name this gets nothing: it appends a reply as a paragraph of its own. The caret stays where it is.
 void GetText(Game& game, std::string_view reply);
 
 // Appends the error line and what is wrong.

@@ -69,7 +69,7 @@ void OpenTerminal(Game& game, Item terminal) {
 
 void ConnectForm2(Game& game) {
     ui::TerminalWindow& form = game.windows.Form2;
-    form.Text1.GotFocus = [&game] { ui::GiveFocus(game.windows, game.windows.Form2.Text2); };
+    form.Text1.GotFocus = [&game] { ui::GiveFocus(game.windows, &game.windows.Form2.Text2); };
     form.Text2.GotFocus = [&form] { form.Text2.SetCaretShape(ui::InputCaret); };
     form.Text2.KeyPress = [&game](char32_t key) { return Text2_KeyPress(game, key); };
     form.Label2.Click = [&game] { ReadLine(game); };

@@ -8,5 +8,5 @@
 // What a terminal shows when it is started; it names the serial number.
 std::string Banner(std::string_view serialNumber);
 
-// By the key that is typed after the number sign, from 1.
+// The folders of the archive in the order of their numbers, which begin with 1 and are typed after the number sign.
 std::span<const std::string_view> ArchiveFolders();

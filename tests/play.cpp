@@ -10,6 +10,7 @@
 #include "core/stages.h"
 #include "core/verbs.h"
 #include "text/characters.h"
+#include "ui/errors.h"
 #include "ui/input.h"
 
 namespace {
@@ -51,6 +52,10 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(Path, ignored);
 }
 
+void ExpectNoFaults(ui::MemoryDesktop& desktop) {
+    for (const auto& box : desktop.TakeMessageBoxes()) EXPECT_FALSE(box.Text.starts_with(ui::ProgramFault)) << box.Text;
+}
+
 Play::Play()
     : game(windows, desktop, [this] {
           if (drawn.empty()) return 0.5;
@@ -67,7 +72,7 @@ Play::Play()
 Play::Play(std::int16_t sector, std::initializer_list<Item> carried) : Play() {
     Proceed();
     Proceed();
-    MoveTo(sector);
+    StandIn(game.state, sector);
     for (const Item item : carried) {
         Place(item, sector::None);
         *std::ranges::find(game.state.Inventory, 0) = NumberOf(item);
@@ -79,12 +84,6 @@ void Play::Place(Item item, std::int16_t sector) {
     for (std::int16_t each = sector::Cabin; each <= LastSector; ++each) RemoveItem(game.state.Sectors[each], item);
     RemoveFromInventory(game, item);
     if (sector != sector::None) AddItemToSector(game, sector, item, Redraw::No);
-}
-
-void Play::MoveTo(std::int16_t sector) {
-    game.state.CurrentSector = sector;
-    game.state.PlayerX = game.state.Sectors[sector].X;
-    game.state.PlayerY = game.state.Sectors[sector].Y;
 }
 
 void Play::Click(const ui::Form& form, ui::ListBox& list, int index) {

@@ -1,5 +1,5 @@
-// A game over the desktop without a screen, with the real texts, in a program folder of its own, and the words of its player.
-// A word clicks the real lists and presses Enter; what no player could do fails the test.
+// A game over the desktop without a screen, with the real texts and a program folder of its own, and what its player can do there.
+// Each of the player's functions clicks the real lists and presses Enter; what no player could do fails the test.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -24,15 +24,21 @@ public:
     const std::filesystem::path Path;
 };
 
+// The desktop tells an exception that nobody has foreseen as a message and plays on; a test must not.
+void ExpectNoFaults(ui::MemoryDesktop& desktop);
+
 class Play {
 public:
     Play();  // at the title
+    ~Play() { ExpectNoFaults(desktop); }
+    Play(const Play&) = delete;
+    Play& operator=(const Play&) = delete;
 
     // In the middle of the story; the carried things are taken from where they lie.
     static Play In(std::int16_t sector, std::initializer_list<Item> carried = {}) { return {sector, carried}; }
     static Play InCabin(std::initializer_list<Item> carried = {}) { return In(sector::Cabin, carried); }
 
-    // The player's words.
+    // What the player does.
     Play& Proceed();  // Enter in the command line
     Play& Go(std::string_view direction);
     Play& Use(Item item, Item target);
@@ -41,10 +47,10 @@ public:
     Play& Open(Item item);
     void Clear();
     void Choose(std::int16_t verb);  // without Enter
-    void ChooseObject(Item item);    // one that he sees or carries
+    void ChooseObject(Item item);    // one that the player sees or carries
     void ChooseTarget(Item target);
 
-    // What he will type into the next panel, a line and Enter each; "Cancel" turns away from the keypad.
+    // What the player will type into the next panel, a line and Enter each; "Cancel" leaves the keypad.
     void InPanel(const std::vector<std::string>& typed) { lines.assign(typed.begin(), typed.end()); }
     void Draws(std::initializer_list<double> numbers) { drawn.assign(numbers); }
 
@@ -62,7 +68,6 @@ public:
     bool Ended() const { return !desktop.Running(); }
 
     void Place(Item item, std::int16_t sector);  // moves it there from wherever it is
-    void MoveTo(std::int16_t sector);            // without a step
     GameState& State() { return game.state; }
     Game& TheGame() { return game; }
     ui::MainWindow& Form1() { return windows.Form1; }
@@ -71,7 +76,7 @@ public:
     ui::MemoryDesktop& Desktop() { return desktop; }
     const std::filesystem::path& Folder() const { return folder.Path; }
 
-    // For events that a player may try: nothing may refuse them.
+    // Single events, which fail the test when the desktop refuses them.
     void Click(const ui::Form& form, ui::ListBox& list, int index);
     void Type(const ui::Form& form, ui::TextBox& box, std::string_view characters);
     void Press(const ui::Form& form, ui::TextBox& box, char32_t key);

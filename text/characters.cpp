@@ -14,7 +14,7 @@ struct Decoded {
     std::size_t bytes;
 };
 
-// The shortest form of each number of bytes; a longer form of the same character is malformed.
+// By the number of bytes, the smallest character that needs so many; a smaller one in as many bytes is malformed.
 constexpr char32_t SmallestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
 
 std::size_t LengthByLeadByte(std::uint8_t lead) {

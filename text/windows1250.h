@@ -1,5 +1,6 @@
 // Windows-1250, the code page of every file of the game. Inside the program all text is UTF-8.
-// All 256 codes go there and back: the five that the code page leaves unassigned stand for the control characters of the same value.
+// All 256 codes can be decoded and encoded again, because the five that the code page leaves unassigned stand for the control characters
+// of the same value.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Packs the story from its readable source, one "NUMBER: TEXT" a line, into the words of data/texs.dat.
-// Empty lines and lines that begin with # are the writers' own. The numbers begin with 1 and leave none out.
+// Empty lines and lines that begin with # are for the writers and left out. The numbers begin with 1 and skip none.
 // Throws PackingError with "NAME:LINE: reason" for the first line that the file's format cannot hold.
 #pragma once
 

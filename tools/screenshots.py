@@ -3,7 +3,8 @@
 
 Usage: tools/screenshots.py [BUILD_FOLDER], build/release by default. Needs xvfb, x11-xkb-utils, openbox, xdotool, imagemagick, pngquant.
 
-What is typed is proved by what the game makes of it: a letter that is lost ends the script, so no picture shows a slip.
+The script ends when the game does not react as it does to the right letters, because some that are typed may get lost. So no picture shows
+a slip.
 """
 
 import json
@@ -25,7 +26,7 @@ def saved_state(on, replay):
     """What the game that was saved last holds, as the headless player sees it."""
     events = ["key Form1.Text2 Enter"] * 2 + ["click Form1.List2(0) Nahraj pozici", "key Form1.Text2 Enter", "click Form4.List1 0",
                                               "key Form4.Text1 Enter", "state"]
-    # A panel holds the line that opened it until it closes, so the answer is the only one.
+    # Of these events `state` alone is answered.
     answer = subprocess.run([replay, on.program_folder], input="\n".join(events) + "\n", capture_output=True, text=True, check=True)
     return json.loads(answer.stdout.splitlines()[-1])
 
@@ -102,7 +103,8 @@ def main():
     if not (build / "game/orvel-tavoren").exists():
         sys.exit(f"There is no game in {build}/game; ./play builds it.")
     with stage(build / "game") as on:
-        # Each Czech letter has a key of its own there; a letter that has none is given a spare one for a moment, and some get lost.
+        # On this layout each Czech letter has a key of its own. xdotool gives a letter without a key a spare one for a moment, and some of
+        # those get lost.
         subprocess.run(["setxkbmap", "cz"], env=on.environment, check=True)
         on.start_game()
         take_pictures(on, build / "replay")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Measures what the tests catch: seeds single-line faults into a copy of the tree and notes which test catches each.
 
-    tools/seed_faults.py WORK [--count 300] [--seed 1] [--qt] [--every SECONDS]
+    tools/seed_faults.py WORK [--count 300] [--seed 1] [--qt | --page] [--every SECONDS]
 
 WORK is a folder for the copy, its build and faults.jsonl, a fault a line: where, what kind, what stood there and stands there now,
 the tests that caught it and after how many seconds. A run that was stopped goes on where it was. The faults are spread over the folders of
@@ -11,7 +11,10 @@ anything a player could see has to be judged by hand. Quick tests run first, and
 for all that take at most so long.
 
 --qt seeds into ui/qt and runs the Qt tests alone. Headers and app/main.cpp are left alone: the former would build everything
-anew, the latter has only tests that need a screen. One job; three to ten seconds a fault.
+anew, the latter has only tests that need a screen. It uses one processor and takes three to ten seconds a fault.
+
+--page seeds into the scripts and the style of ui/web/page. The node tests run first, then those in browsers, which take up to a minute
+together; a test that only runs the same script in a second browser is left out.
 """
 import argparse
 import collections
@@ -29,9 +32,10 @@ import time
 TREE = pathlib.Path(__file__).resolve().parents[1]
 FOLDERS = ["interactions", "commands", "terminal", "core", "saves", "ui", "text", "app", "tools"]
 LEFT_OUT = {"app/main.cpp", "tools/pack_texts_main.cpp"}
-SLOW = 0.2  # seconds; such a test has a turn of its own
-LIMIT = 30  # seconds of a processor; what takes more hangs
-# Most of a compilation would be the headers of the library, so those of each folder are compiled once.
+PAGE = "ui/web/page"
+SLOW = 0.2  # seconds; a test that takes longer is run by itself
+LIMIT = 30  # seconds of a processor; a test that takes more counts as hanging
+# Most of a compilation would be the headers of the libraries, so they are compiled once for each folder.
 PRECOMPILE = """
 function(precompile)
     foreach(folder text ui core terminal interactions saves commands app ui_qt)
@@ -47,10 +51,10 @@ cmake_language(DEFER DIRECTORY ${CMAKE_SOURCE_DIR} CALL precompile)
 """
 
 LEADING = r"(\s*(?:(?:\} )?else )?(?:if \(.*?\) |for \(.*?\) |case [^ ]+: +|default: +)?)"
-CALL = re.compile(LEADING + r"([A-Za-z_][\w:.]*(?:->[\w.]+)*(?:\[[^]]*\])?(?:\.\w+)?\(.*\)|(?:\+\+|--)[\w.>\[\]-]+);( return;)?$")
-ASSIGNMENT = re.compile(LEADING + r"([\w.:*()>\[\]-]+ (?:[+|-]?=) .*);( return;)?$")
+CALL = re.compile(LEADING + r"((?:await )?[A-Za-z_][\w:.#?]*(?:->[\w.]+)*(?:\[[^]]*\])?(?:\.\w+)?\(.*\)|(?:\+\+|--)[\w.>\[\]-]+);( return;)?$")
+ASSIGNMENT = re.compile(LEADING + r"([\w.:*()>#\[\]-]+ (?:[+|-]?=) .*);( return;)?$")
 SWAPS = {
-    "equality": (r" (==|!=) ", {"==": "!=", "!=": "=="}),
+    "equality": (r" ([!=]==?) ", {"==": "!=", "!=": "==", "===": "!==", "!==": "==="}),
     "boundary": (r" (<=|>=|<|>) ", {"<": "<=", "<=": "<", ">": ">=", ">=": ">"}),
     "and, or": (r" (&&|\|\|) ", {"&&": "||", "||": "&&"}),
     "truth": (r"\b(True|False|true|false)\b", {"True": "False", "False": "True", "true": "false", "false": "true"}),
@@ -60,7 +64,7 @@ SWAPS = {
 def masked(line):
     """The line with its strings, characters and comment blanked out, at the same length."""
     blank = lambda found: found[0][0] + "_" * (len(found[0]) - 2) + found[0][-1]
-    line = re.sub(r'"(?:\\.|[^"\\])*"|(?<![0-9a-fA-F])\'(?:\\.|[^\'\\])+\'', blank, line)
+    line = re.sub(r'"(?:\\.|[^"\\])*"|`(?:\\.|[^`\\])*`|(?<![0-9a-fA-F])\'(?:\\.|[^\'\\])+\'', blank, line)
     return re.sub(r"\s*//.*", lambda found: " " * len(found[0]), line).rstrip()
 
 
@@ -118,18 +122,28 @@ def changes(lines, number):
             yield "rows", [line[:here[0]] + second + line[here[1]:], below[:there[0]] + first + below[there[1]:]]
 
 
-def draw(qt, seed):
-    """All faults of each folder, in the order in which they are taken."""
-    for folder in ["ui/qt"] if qt else FOLDERS:
+def style_changes(lines, number):
+    """The faults of a line of style.css. Colours are left alone: every one of them is a matter of taste to a test."""
+    line = lines[number]
+    plain = re.sub(r"/\*.*?\*/|rgb\(.*?\)", lambda found: " " * len(found[0]), line)
+    for found in re.finditer(r"(?<=[{; ])((?!color|background|border-color)[\w-]+: [^;{}]+;)", plain):
+        yield "declaration left out", [line[:found.start()] + line[found.end():]]
+    for found in re.finditer(r"(?<![\w.#-])([1-9]\d*)(?=px|r?em|vh|vw|cqh|%|fr| \*)", plain):
+        yield "length", [line[:found.start()] + str(2 * int(found[1]) + 1) + line[found.end():]]
+
+
+def draw(groups, seed):
+    """All faults of each group of files, in the order in which they are taken."""
+    for group in groups:
         kinds, seen, size = collections.defaultdict(list), collections.Counter(), 0
-        for path in sorted((TREE / folder).glob("*.cpp")):
+        for path in sorted(TREE.glob(group)):
             name = str(path.relative_to(TREE))
             if name in LEFT_OUT:
                 continue
             lines = path.read_text(encoding="utf-8").split("\n")
             for number, line in enumerate(lines):
                 size += bool(masked(line).strip())
-                for kind, after in changes(lines, number):
+                for kind, after in (style_changes if path.suffix == ".css" else changes)(lines, number):
                     key = (kind, line.strip(), *map(str.strip, after))
                     seen[key] += 1
                     rank = hashlib.sha256(repr((seed, key, seen[key])).encode()).hexdigest()
@@ -139,39 +153,40 @@ def draw(qt, seed):
         order = []
         while any(kinds.values()):
             order += [drawn.pop(0)[1] for _, drawn in sorted(kinds.items()) if drawn]
-        yield folder, size, order
-
-
-def limited():
-    resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30))
-    resource.setrlimit(resource.RLIMIT_CPU, (LIMIT, LIMIT))
+        yield size, order
 
 
 class Bench:
     """The copy, its build and its tests."""
+    first, others = ["orvel_tests", "story"], ["replay", "save_fuzz", "text_store_fuzz"]  # what is built for the quick tests, and later
+    keeps = ()  # what lies in the copy without being in the tree
 
-    def __init__(self, work, qt, every):
-        self.tree, self.build, self.every = work / "tree", work / "build", every
-        self.first, self.others = (["orvel_qt_tests"], []) if qt else (["orvel_tests", "story"], ["replay", "save_fuzz", "text_store_fuzz"])
+    def __init__(self, work, every):
+        self.work, self.tree, self.build, self.every = work, work / "tree", work / "build", every
         self.environment = os.environ | {"TMPDIR": str(work / "tmp"), "QT_QPA_PLATFORM": "offscreen"}
         self.copy()
-        precompile = work / "precompile.cmake"
+        self.configure()
+        if not self.compiles(*self.first, *self.others):
+            sys.exit("the tree does not compile")
+        self.quick, self.slow = self.tests()
+        self.catches = collections.Counter()
+
+    def configure(self, desktop="OFF"):
+        precompile = self.work / "precompile.cmake"
         precompile.write_text(PRECOMPILE)
         linker = next((name for program, name in (("mold", "mold"), ("ld.lld", "lld")) if shutil.which(program)), None)
         options = [f"-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld={linker}"] if linker else []
-        subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, f"-DORVEL_DESKTOP={'ON' if qt else 'OFF'}",
+        subprocess.run(["cmake", "-G", "Ninja", "-S", self.tree, "-B", self.build, f"-DORVEL_DESKTOP={desktop}",
                         "-DCMAKE_CXX_FLAGS=-O0 -w", f"-DCMAKE_PROJECT_INCLUDE={precompile}", *options],
                        check=True, stdout=subprocess.DEVNULL)
-        if not self.compiles(*self.first, *self.others):
-            sys.exit("the tree does not compile")
-        self.quick, self.slow = self.qt_tests() if qt else self.engine_tests()
-        self.catches = collections.Counter()
 
     def copy(self):
         listed = subprocess.run(["git", "-C", TREE, "ls-files", "-z"], check=True, capture_output=True, text=True).stdout
         names = set(listed.split("\0")) - {""}
-        for path in [each for each in self.tree.rglob("*") if each.is_file() and str(each.relative_to(self.tree)) not in names]:
-            path.unlink()
+        for path in [each for each in self.tree.rglob("*") if each.is_file()]:
+            name = str(path.relative_to(self.tree))
+            if name not in names and not name.startswith(self.keeps):
+                path.unlink()
         for name in names:
             target = self.tree / name
             target.parent.mkdir(parents=True, exist_ok=True)
@@ -182,12 +197,16 @@ class Bench:
     def compiles(self, *targets):
         return subprocess.run(["ninja", "-j1", "-C", self.build, *targets], capture_output=True).returncode == 0
 
+    def limit(self):
+        resource.setrlimit(resource.RLIMIT_AS, (8 << 30, 8 << 30))
+        resource.setrlimit(resource.RLIMIT_CPU, (LIMIT, LIMIT))
+
     def run(self, command):
         """The output of a test that failed or hung, else nothing."""
         shutil.rmtree(self.environment["TMPDIR"], ignore_errors=True)
         os.mkdir(self.environment["TMPDIR"])
         try:
-            done = subprocess.run(command, cwd=self.tree, env=self.environment, capture_output=True, timeout=20 * LIMIT, preexec_fn=limited)
+            done = subprocess.run(command, cwd=self.tree, env=self.environment, capture_output=True, timeout=20 * LIMIT, preexec_fn=self.limit)
         except subprocess.TimeoutExpired as hung:
             return hung.stdout or b"hung"
         return (done.stdout or b"failed") if done.returncode else b""
@@ -195,11 +214,7 @@ class Bench:
     def gtest(self, names):
         return [self.build / "tests/orvel_tests", "--gtest_filter=" + names] + ([] if self.every else ["--gtest_fail_fast"])
 
-    def qt_tests(self):
-        binary = self.build / "tests/qt/orvel_qt_tests"
-        return [("qt, " + scale, ["env", "QT_SCALE_FACTOR=" + scale, binary], 0) for scale in "12"], []
-
-    def engine_tests(self):
+    def tests(self):
         """Name, command and seconds of each test: the quick cases together, and the others."""
         told = subprocess.run(self.gtest("*"), capture_output=True, text=True, env=self.environment)
         times = {name: int(ms) / 1000 for name, ms in re.findall(r"OK \] (\S+)(?:, where .*)? \((\d+) ms\)", told.stdout)}
@@ -219,7 +234,7 @@ class Bench:
         return folder in ("saves", "core", "text") or not name.startswith(("SaveFormat.", "Durability.", "save_corpus", "text_store"))
 
     def catchers(self, folder):
-        """The tests that fail now, and after how many seconds the first of them did. Those that have caught most come first."""
+        """The tests that fail now, and after how many seconds the first of them did. Tests that have caught most faults run first."""
         caught, begin, soon = [], time.monotonic(), None
         slow = [test for test in self.slow if self.reaches(test[0], folder)]
         slow.sort(key=lambda test: test[2] / (self.catches[test[0]] + 0.1))
@@ -254,10 +269,60 @@ class Bench:
             path.write_bytes(sound)
 
 
+class QtBench(Bench):
+    first, others = ["orvel_qt_tests"], []
+
+    def configure(self):
+        super().configure(desktop="ON")
+
+    def tests(self):
+        binary = self.build / "tests/qt/orvel_qt_tests"
+        return [("qt, " + scale, ["env", "QT_SCALE_FACTOR=" + scale, binary], 0) for scale in "12"], []
+
+
+class PageBench(Bench):
+    first, others = ["site", "single_file"], []
+    keeps = ("build/", "tests/web/node_modules/")
+    other_browser = re.compile(r"_in_firefox$")
+
+    def configure(self):
+        """As ./check does: the tests of the page compare it with the native player of the release build."""
+        self.build = self.tree / "build/web"
+        for preset, target in (("release", "replay"), ("web", "all")):
+            subprocess.run(["cmake", "--preset", preset, "-DORVEL_DESKTOP=OFF"], cwd=self.tree, check=True, stdout=subprocess.DEVNULL)
+            subprocess.run(["ninja", "-j1", "-C", self.tree / "build" / preset, target], check=True, stdout=subprocess.DEVNULL)
+
+    def limit(self):
+        """A browser wants more room, and its tests have limits of their own."""
+
+    def tests(self):
+        """Those of the page, quick ones first. What compares the compiled game with the native one knows nothing of the page."""
+        told = json.loads(subprocess.run(["ctest", "--test-dir", self.build, "--show-only=json-v1"], check=True, capture_output=True).stdout)
+        commands = {test["name"]: test["command"] for test in told["tests"] if "command" in test}
+        self.run(["sh", "-c", "cd tests/web && npm ci --ignore-scripts --no-audit --no-fund"])
+        slow = []
+        for name, command in commands.items():
+            if not name.startswith("web.") or name in ("web.packages", "web.same_game") or self.other_browser.search(name):
+                continue
+            begin = time.monotonic()
+            if output := self.run(["env", "-C", self.tree / "tests/web", *command]):
+                sys.exit(f"{name} fails without a fault\n" + output.decode(errors="replace"))
+            slow.append((name, ["env", "-C", self.tree / "tests/web", *command], time.monotonic() - begin))
+        return [], slow
+
+    def compiles(self, *targets):
+        scripts = [path for path in (self.tree / PAGE).glob("*.*js")]
+        return all(subprocess.run(["node", "--check", path], capture_output=True).returncode == 0 for path in scripts) and super().compiles(*targets)
+
+    def reaches(self, name, folder):
+        return True
+
+
 def report(results):
     table = collections.defaultdict(collections.Counter)
     for fault in results:
-        for row in (os.path.dirname(fault["file"]), fault["kind"], "all"):
+        page = fault["file"].startswith(PAGE)
+        for row in (fault["file"].rpartition("/")[2] if page else os.path.dirname(fault["file"]), fault["kind"], "all"):
             table[row][fault["outcome"]] += 1
     for row, counts in table.items():
         tried = counts["caught"] + counts["missed"]
@@ -274,6 +339,7 @@ def main():
     parser.add_argument("--count", type=int, default=300)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--qt", action="store_true")
+    parser.add_argument("--page", action="store_true")
     parser.add_argument("--every", type=float, default=0, metavar="SECONDS")
     options = parser.parse_args()
     work = options.work.resolve()
@@ -282,14 +348,20 @@ def main():
     notes = work / "faults.jsonl"
     known = [json.loads(line) for line in notes.read_text().splitlines()] if notes.exists() else []
     tried = {(fault["file"], fault["line"], *fault["after"]): fault for fault in known}
-    drawn = list(draw(options.qt, options.seed))
-    total = sum(size for _, size, _ in drawn)
-    bench, results = Bench(work, options.qt, options.every), []
+    if options.page:
+        kind, groups = PageBench, [PAGE + "/*.*js", PAGE + "/*.css"]
+    elif options.qt:
+        kind, groups = QtBench, ["ui/qt/*.cpp"]
+    else:
+        kind, groups = Bench, [folder + "/*.cpp" for folder in FOLDERS]
+    drawn = list(draw(groups, options.seed))
+    total = sum(size for size, _ in drawn)
+    bench, results = kind(work, options.every), []
     with open(notes, "a", encoding="utf-8") as journal:
-        for folder, size, order in drawn:
+        for size, order in drawn:
             wanted, lines = max(5, round(options.count * size / total)), set()
             while wanted > 0 and order:
-                # A file's faults follow each other, so that each costs one compilation.
+                # The faults of one file are tried in a row, so that mending the last fault and seeding the next is one compilation.
                 batch = []
                 while order and len(batch) < wanted:
                     fault = order.pop(0)

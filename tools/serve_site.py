@@ -19,7 +19,7 @@ class Handler(http.server.SimpleHTTPRequestHandler):
     }
 
     def end_headers(self):
-        # The next build is seen at once.
+        # A reload shows the next build at once.
         self.send_header("Cache-Control", "no-cache")
         super().end_headers()
 

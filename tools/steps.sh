@@ -15,6 +15,24 @@ step() {
     fi
 }
 
+passed=0
+skipped=0
+
+skip() {
+    echo "Skipped: $1"
+    skipped=$((skipped + 1))
+}
+
+# count_tests WHERE: adds up what ctest has just told. It counts skipped tests as passed, and leaves out those that are disabled.
+count_tests() {
+    local test kind
+    passed=$((passed + $(sed -n 's/.* tests failed out of //p' "$log")))
+    while IFS=$'\t' read -r test kind; do
+        skip "$test in build/$1, for want of what it needs"
+        [ "$kind" = Disabled ] || passed=$((passed - 1))
+    done < <(sed -En 's/^\t *[0-9]+ - (.*) \((Skipped|Disabled)\)$/\1\t\2/p' "$log")
+}
+
 as_root() {
     if [ "$(id -u)" = 0 ]; then
         "$@"
@@ -28,17 +46,97 @@ install_packages() {
         as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
 }
 
-# need PACKAGE...: installs those Debian packages that are missing.
+# The name, of NAME|NAME..., under which apt can install it here.
+name_for_apt() {
+    local name
+    for name in ${1//|/ }; do
+        # Not `grep -q`: it leaves at the first match, apt-cache then dies of a closed pipe, and pipefail makes that "no such package".
+        if LC_ALL=C apt-cache policy "$name" 2>/dev/null | grep 'Candidate: [^(]' >/dev/null; then
+            echo "$name"
+            return
+        fi
+    done
+    return 1
+}
+
+# need PACKAGE...: installs those Debian packages that are missing. A|B is whichever of them this release has. What it has under no name is
+# told and left out: what wants it is skipped later, or says so.
 need() {
-    local installed missing
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        tell_what_is_needed "$@"
+        return
+    fi
+    local installed package name missing=() absent=()
     # It fails where it has never heard of one of them, which is no failure here.
-    installed=$({ dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true; } | sed -n 's/^installed //p' | sort -u)
-    missing=$(comm -13 <(echo "$installed") <(printf '%s\n' "$@" | sort -u) | tr '\n' ' ')
-    [ -z "$missing" ] && return
+    # shellcheck disable=SC2068,SC2086  # one word a package
+    installed=" $({ dpkg-query -W -f '${db:Status-Status} ${Package}\n' ${@//|/ } 2>/dev/null || true; } | sed -n 's/^installed //p' | tr '\n' ' ')"
+    for package; do
+        for name in ${package//|/ }; do
+            [[ $installed == *" $name "* ]] && continue 2
+        done
+        missing+=("$package")
+    done
+    [ ${#missing[@]} = 0 ] && return
+    if ! LC_ALL=C apt-cache policy | grep ' Packages$' >/dev/null; then  # a fresh system knows only what it has installed
+        can_install "${missing[@]}"
+        step "Asking which packages there are" as_root apt-get update
+    fi
+    local found=()
+    for package in "${missing[@]}"; do
+        if name=$(name_for_apt "$package"); then found+=("$name"); else absent+=("$package"); fi
+    done
+    [ ${#absent[@]} = 0 ] || echo "This release has no package ${absent[*]}; going on without"
+    [ ${#found[@]} = 0 ] && return
+    can_install "${found[@]}"
+    step "Installing ${found[*]}" install_packages "${found[@]}"
+}
+
+can_install() {
     if [ "$(id -u)" != 0 ] && ! command -v sudo >/dev/null; then
-        echo "Please install these Debian packages first: $missing" >&2
+        echo "Please install these Debian packages first: $*" >&2
         exit 1
     fi
-    # shellcheck disable=SC2086  # one word a package
-    step "Installing $missing" install_packages $missing
+}
+
+# What the packages bring, by the names that the rest of the world has for it: a program that is looked for, or a library.
+brings() {
+    case "$1" in
+        g++) echo "program c++ (a C++20 compiler, as GCC 12)" ;;
+        ninja-build) echo "program ninja" ;;
+        librsvg2-bin) echo "program rsvg-convert (of librsvg)" ;;
+        webp) echo "program cwebp (of libwebp)" ;;
+        emscripten) echo "program em++ (emscripten, or an emsdk that EMSDK names)" ;;
+        xvfb) echo "program Xvfb" ;;
+        dbus-daemon) echo "program dbus-run-session" ;;
+        desktop-file-utils) echo "program desktop-file-validate" ;;
+        appstream) echo "program appstreamcli" ;;
+        webkit*) echo "program WebKitWebDriver (of WebKitGTK)" ;;
+        qt6-base-dev) echo "library Qt 6.4 or newer" ;;
+        libxcb1-dev) echo "library XCB" ;;
+        libpng-dev) echo "library libpng" ;;
+        nlohmann-json3-dev) echo "library nlohmann-json" ;;
+        libgtest-dev) echo "library GoogleTest" ;;
+        libgmock-dev) echo "library GoogleMock" ;;
+        libbenchmark-dev) echo "library Google Benchmark" ;;
+        fonts-liberation) echo "library the Liberation fonts" ;;
+        hunspell-cs) echo "library hunspell's Czech dictionary" ;;
+        at-spi2-core) echo "library AT-SPI" ;;
+        python3-*) echo "library ${1#python3-} for Python" ;;
+        *) echo "program $1" ;;
+    esac
+}
+
+tell_what_is_needed() {
+    local package kind program rest programs=() libraries=()
+    for package; do
+        read -r kind program rest <<<"$(brings "$package")"
+        if [ "$kind" = library ]; then
+            libraries+=("$program${rest:+ $rest}")
+        elif ! command -v "$program" >/dev/null; then
+            programs+=("$program${rest:+ $rest}")
+        fi
+    done
+    echo "This is no Debian, so please install what is missing yourself; going on with what is there"
+    [ ${#programs[@]} = 0 ] || printf 'There is no program %s\n' "${programs[@]}"
+    [ ${#libraries[@]} = 0 ] || printf 'CMake or a test will look for %s\n' "${libraries[@]}"
 }

@@ -1,6 +1,7 @@
 #include "ui/controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/windows1250.h"
 
@@ -97,6 +98,11 @@ void Label::SetCaption(std::string_view value) {
 void Label::SetTextColour(Colour value) {
     colour = value;
     ++changes;
+}
+
+Form::Form(const FormLayout& layout, std::vector<Control> controls, std::vector<Form*>& all)
+    : Layout(layout), Controls(std::move(controls)) {
+    all.push_back(this);
 }
 
 const ControlLayout& LayoutOf(const Control& control) {

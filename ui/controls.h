@@ -1,5 +1,5 @@
 // The controls and forms of the windowing layer: what they show and the slots of their events. They know no toolkit.
-// Whoever changes a control through these functions raises its change counter, by which a desktop sees what to paint anew.
+// Every function that changes a control raises its change counter, by which a desktop sees what to paint again.
 #pragma once
 
 #include <cstddef>
@@ -42,12 +42,12 @@ public:
     void SetText(std::string_view text);  // moves the caret to the start
     void AppendText(std::string_view text);
     void MoveCaretToEnd();
-    void EditText(std::string_view text, std::size_t caretByte);  // what the player made of it; foreign characters become "?"
+    void EditText(std::string_view text, std::size_t caretByte);  // the player's edit; what Windows-1250 lacks becomes "?"
     void SetVisible(bool visible);
     void SetCaretShape(CaretShape shape);
 
     std::uint64_t Changes() const { return changes; }
-    // Grows whenever the text is replaced; while it stands still, the text has only been appended to.
+    // Grows whenever the text is replaced. As long as it does not grow, the text has only been appended to.
     std::uint64_t Replacements() const { return replacements; }
 
 private:
@@ -122,8 +122,13 @@ struct RoundRegion {
 };
 
 struct Form {
+    // Enters the form in the list of all, by which the desktops find what there is to show.
+    Form(const FormLayout& layout, std::vector<Control> controls, std::vector<Form*>& all);
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
     const FormLayout& Layout;
-    std::vector<Control> Controls;  // in tab order
+    const std::vector<Control> Controls;  // in tab order
     std::function<void()> GotFocus{};
     std::function<void()> CloseBox{};
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <iterator>
 
 #include "text/characters.h"
 
@@ -17,12 +16,9 @@ Form& FormOf(Windows& windows, const Control& control) {
     return **form;
 }
 
-void GiveFocusTo(Windows& windows, const Control& control, const std::function<void()>& gotFocus) {
-    Form& form = FormOf(windows, control);
-    if (windows.Active == &form && form.Focused == control) return;
-    windows.Active = &form;
-    form.Focused = control;
-    if (gotFocus) gotFocus();
+void RaiseGotFocus(const Control& control) {
+    if (auto* const* box = std::get_if<TextBox*>(&control); box && (*box)->GotFocus) (*box)->GotFocus();
+    if (auto* const* list = std::get_if<ListBox*>(&control); list && (*list)->GotFocus) (*list)->GotFocus();
 }
 
 std::optional<Control> FirstThatTakesFocus(const Form& form) {
@@ -44,12 +40,12 @@ void DeleteBeforeCaret(TextBox& box) {
 
 }  // namespace
 
-void GiveFocus(Windows& windows, TextBox& box) {
-    GiveFocusTo(windows, &box, box.GotFocus);
-}
-
-void GiveFocus(Windows& windows, ListBox& list) {
-    GiveFocusTo(windows, &list, list.GotFocus);
+void GiveFocus(Windows& windows, const Control& control) {
+    Form& form = FormOf(windows, control);
+    if (!TakesFocus(control) || (windows.Active == &form && form.Focused == control)) return;
+    windows.Active = &form;
+    form.Focused = control;
+    RaiseGotFocus(control);
 }
 
 void GiveFocus(Windows& windows, Form& form) {
@@ -57,26 +53,12 @@ void GiveFocus(Windows& windows, Form& form) {
     windows.Active = &form;
     if (!form.Focused) form.Focused = FirstThatTakesFocus(form);
     if (form.GotFocus) form.GotFocus();
-    if (!form.Focused || windows.Active != &form) return;
-    if (auto* const* box = std::get_if<TextBox*>(&*form.Focused); box && (*box)->GotFocus) (*box)->GotFocus();
-    if (auto* const* list = std::get_if<ListBox*>(&*form.Focused); list && (*list)->GotFocus) (*list)->GotFocus();
+    if (form.Focused && windows.Active == &form) RaiseGotFocus(*form.Focused);
 }
 
 bool TakesFocus(const Control& control) {
     if (auto* const* box = std::get_if<TextBox*>(&control)) return (*box)->Visible();
     return std::holds_alternative<ListBox*>(control);
-}
-
-void WalkTabOrder(Windows& windows, Form& form, bool forward) {
-    std::vector<Control> order;
-    std::ranges::copy_if(form.Controls, std::back_inserter(order), TakesFocus);
-    if (!forward) std::ranges::reverse(order);
-    const auto here = form.Focused ? std::ranges::find(order, *form.Focused) : order.end();
-    if (here == order.end()) return;
-    std::rotate(order.begin(), here, order.end());
-    const Control next = order[order.size() > 1 ? 1 : 0];
-    if (auto* const* box = std::get_if<TextBox*>(&next)) GiveFocus(windows, **box);
-    if (auto* const* list = std::get_if<ListBox*>(&next)) GiveFocus(windows, **list);
 }
 
 void Show(Windows& windows, Form& form) {
@@ -94,7 +76,7 @@ bool AnnounceKey(TextBox& box, char32_t key) {
 }
 
 void PressKey(Windows& windows, TextBox& box, char32_t key) {
-    GiveFocus(windows, box);
+    GiveFocus(windows, &box);
     if (AnnounceKey(box, key) || box.Layout.ReadOnly) return;
     if (key == key::Backspace) {
         DeleteBeforeCaret(box);
@@ -104,7 +86,7 @@ void PressKey(Windows& windows, TextBox& box, char32_t key) {
 }
 
 void ClickEntry(Windows& windows, ListBox& list, int index) {
-    GiveFocus(windows, list);
+    GiveFocus(windows, &list);
     list.Select(index);
     if (list.Click) list.Click();
 }

@@ -10,15 +10,11 @@ namespace key {
 enum : char32_t { Backspace = 8, Enter = 13, Escape = 27 };
 }
 
-void GiveFocus(Windows& windows, TextBox& box);
-void GiveFocus(Windows& windows, ListBox& list);
-void GiveFocus(Windows& windows, Form& form);  // a hidden form takes none
-
 // Whether the control can have the focus at all: a visible text box or a list.
 bool TakesFocus(const Control& control);
 
-// Gives the focus to the next control in tab order that can have it, or to the one before; after the last comes the first.
-void WalkTabOrder(Windows& windows, Form& form, bool forward);
+void GiveFocus(Windows& windows, const Control& control);  // one that cannot have it is left alone
+void GiveFocus(Windows& windows, Form& form);              // a hidden form is left alone
 
 void Show(Windows& windows, Form& form);
 void Hide(Form& form);
@@ -26,7 +22,7 @@ void Hide(Form& form);
 // A key pressed in a box: key-down, then key-press, then, unless it was swallowed or the box is read-only, the edit and its change event.
 void PressKey(Windows& windows, TextBox& box, char32_t key);
 
-// The first two of these for a desktop whose own widget does the edit and reports it with TextBox::EditText; true: swallowed.
+// Key-down and key-press alone, for a desktop whose own widget does the edit and then reports it with TextBox::EditText; true: swallowed.
 bool AnnounceKey(TextBox& box, char32_t key);
 
 // Selects the entry, then raises the click event.

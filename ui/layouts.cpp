@@ -28,7 +28,8 @@ constexpr auto Form1Controls = std::to_array<ControlLayout>({
      .Background = Navy,
      .Font = Bold,
      .Spoken = "Sestavený příkaz",
-     .ReadOnly = true},
+     .ReadOnly = true,
+     .Touch = {.Caption = "×", .Key = '\b', .Spoken = "Zrušit příkaz"}},
     {.Name = "List1", .Kind = ListBox, .Bounds = {240, 6240, 2055, 1710}, .Text = Cyan, .Background = Black, .Spoken = "Neseš"},
     {.Name = "List2(0)", .Kind = ListBox, .Bounds = {3360, 6720, 2055, 1230}, .Text = Yellow, .Background = Black, .Spoken = "Slovesa"},
     {.Name = "List2(1)",
@@ -57,7 +58,7 @@ constexpr auto Form1Controls = std::to_array<ControlLayout>({
 });
 
 constexpr auto Form2Controls = std::to_array<ControlLayout>({
-    // The player never types into it: whoever gives it the focus finds himself in the input line.
+    // Read-only because nobody could type into it: it passes the focus on to Text2.
     {.Name = "Text1",
      .Kind = TextBox,
      .Bounds = {120, 120, 6255, 3855},
@@ -72,7 +73,8 @@ constexpr auto Form2Controls = std::to_array<ControlLayout>({
      .Text = Yellow,
      .Background = Navy,
      .Font = Bold,
-     .Spoken = "Příkaz terminálu"},
+     .Spoken = "Příkaz terminálu",
+     .Touch = {.Caption = "Exit", .Text = "exit", .Spoken = "Exit, odejít od terminálu"}},
     {.Name = "Label1",
      .Kind = Label,
      .Bounds = {5400, 4230, 975, 255},
@@ -99,7 +101,9 @@ constexpr auto Form3Controls = std::to_array<ControlLayout>({
      .Text = Yellow,
      .Background = Navy,
      .Font = Bold,
-     .Spoken = "Kód dveří"},
+     .Spoken = "Kód dveří",
+     .Digits = true,
+     .Touch = {.Caption = "OK", .Spoken = "OK, potvrdit kód"}},
     {.Name = "Label2",
      .Kind = Label,
      .Bounds = {1920, 675, 855, 255},
@@ -119,7 +123,8 @@ constexpr auto Form4Controls = std::to_array<ControlLayout>({
      .Text = Yellow,
      .Background = Navy,
      .Font = Bold,
-     .Spoken = "Název pozice"},
+     .Spoken = "Název pozice",
+     .Touch = {.Caption = "Exit", .Text = "exit", .Spoken = "Exit, zavřít panel"}},
     {.Name = "Label1",
      .Kind = Label,
      .Bounds = {3720, 2820, 855, 225},

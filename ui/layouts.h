@@ -37,6 +37,14 @@ struct Font {
 
 enum class ControlKind { TextBox, ListBox, Label };
 
+// A key that the keyboard of a phone lacks or hides. Where fingers play, the desktop shows it as a button at the end of the line.
+struct TouchKey {
+    std::string_view Caption{};  // empty: the line needs none
+    std::string_view Text{};     // if any, it replaces what the line holds before the key is pressed
+    char Key = '\r';             // '\b' is Backspace
+    std::string_view Spoken{};   // what a screen reader calls it
+};
+
 struct ControlLayout {
     std::string_view Name;
     ControlKind Kind;
@@ -49,6 +57,8 @@ struct ControlLayout {
     bool MultiLine = false;      // with a vertical scroll bar
     bool ReadOnly = false;
     bool Hidden = false;
+    bool Digits = false;  // what is typed into it are digits as a rule
+    TouchKey Touch{};
 };
 
 struct FormLayout {

@@ -6,24 +6,19 @@
 namespace ui {
 
 void MemoryDesktop::RunEvent(const std::function<void()>& event) {
-    try {
-        event();
-    } catch (const ProgramEnded&) {
-        running = false;
-    } catch (const GameError& error) {
-        ShowMessageBox(error.what(), "Chyba");
-    }
+    const Outcome outcome = entry.Run(event);
+    if (!outcome.Complaint.empty()) ShowMessageBox(outcome.Complaint, ErrorTitle);
 }
 
 MemoryDesktop::Refusal MemoryDesktop::WhyGone(const Form& form) const {
-    if (!running) return "the program has ended";
+    if (!Running()) return "the program has ended";
     if (!form.Visible) return std::string(form.Layout.Name) + " is hidden";
     return std::nullopt;
 }
 
 MemoryDesktop::Refusal MemoryDesktop::WhyUnreachable(const Form& form) const {
     if (auto refusal = WhyGone(form)) return refusal;
-    if (modal != nullptr && modal != &form) return std::string(modal->Layout.Name) + " is modal";
+    if (entry.IsShut(form)) return std::string(Modal()->Layout.Name) + " is modal";
     return std::nullopt;
 }
 
@@ -50,10 +45,7 @@ MemoryDesktop::Refusal MemoryDesktop::PressKey(const Form& form, TextBox& box, c
 MemoryDesktop::Refusal MemoryDesktop::Focus(const Form& form, const Control& control) {
     if (auto refusal = WhyUnreachable(form)) return refusal;
     if (!TakesFocus(control)) return "the control cannot have the focus";
-    RunEvent([&] {
-        if (auto* const* box = std::get_if<TextBox*>(&control)) GiveFocus(windows, **box);
-        if (auto* const* list = std::get_if<ListBox*>(&control)) GiveFocus(windows, **list);
-    });
+    RunEvent([&] { GiveFocus(windows, control); });
     return std::nullopt;
 }
 
@@ -75,15 +67,12 @@ void MemoryDesktop::ShowMessageBox(std::string_view text, std::string_view title
 }
 
 void MemoryDesktop::ShowModal(Form& form) {
-    Form* const behind = windows.Active;
-    Show(windows, form);
-    Form* const outer = std::exchange(modal, &form);
-    while (form.Visible) {
-        ranDry = !NextEvent || !NextEvent();
-        if (ranDry || !running) EndProcess();
-    }
-    modal = outer;
-    if (behind != nullptr) GiveFocus(windows, *behind);
+    entry.ShowModal(form, [&] {
+        while (form.Visible && Running()) {
+            ranDry = !NextEvent || !NextEvent();
+            if (ranDry) EndProcess();
+        }
+    });
 }
 
 }  // namespace ui

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "ui/desktop.h"
-#include "ui/windows.h"
+#include "ui/event_entry.h"
 
 namespace ui {
 
@@ -21,7 +21,7 @@ public:
 
     using Refusal = std::optional<std::string>;
 
-    explicit MemoryDesktop(Windows& mirrored) : windows(mirrored) {}
+    explicit MemoryDesktop(Windows& mirrored) : windows(mirrored), entry(mirrored) {}
 
     // Carries out the script's next event; false when there is none left.
     std::function<bool()> NextEvent;
@@ -34,13 +34,13 @@ public:
     Refusal Focus(Form& form);
     Refusal Close(const Form& form);  // as on the screen, also behind a modal form
 
-    // Runs what a player or the start of the program sets off, and catches what ends or interrupts it.
+    // Runs what a player sets off; the message box of an error is acknowledged like every other.
     void RunEvent(const std::function<void()>& event);
 
-    bool Running() const { return running; }
+    bool Running() const { return !entry.Ended(); }
     // The script ended inside a modal form: the program stopped there, the windows still as they were.
     bool RanDry() const { return ranDry; }
-    const Form* Modal() const { return modal; }
+    const Form* Modal() const { return entry.Modal(); }
     std::vector<MessageBox> TakeMessageBoxes() { return std::exchange(messageBoxes, {}); }
 
     bool HasFontFamily(std::string_view name) const override { return name == "Arial" && HasArial; }
@@ -53,8 +53,7 @@ private:
     Refusal WhyUnreachable(const Form& form) const;
 
     Windows& windows;
-    Form* modal = nullptr;
-    bool running = true;
+    EventEntry entry;
     bool ranDry = false;
     std::vector<MessageBox> messageBoxes;
 };

@@ -2,68 +2,67 @@
 #pragma once
 
 #include <array>
-#include <string_view>
+#include <vector>
 
 #include "ui/controls.h"
 
 namespace ui {
 
-constexpr std::string_view NothingThere = "---";  // the first entry of a list that offers nothing
-
 struct MainWindow {
-    MainWindow();
+    explicit MainWindow(std::vector<Form*>& all);
     TextBox Text1;                 // output
     TextBox Text2;                 // command line
     ListBox List1;                 // carried things
     std::array<ListBox, 3> List2;  // verbs, objects, targets
     Label Label3;                  // caption of the button
-    Label Label1;                  // what takes the click on it
+    Label Label1;                  // click area over the caption
     Form Window;
 };
 
 struct TerminalWindow {
-    TerminalWindow();
+    explicit TerminalWindow(std::vector<Form*>& all);
     TextBox Text1;  // output
     TextBox Text2;  // input line
     Label Label1;   // caption of the button
-    Label Label2;   // what takes the click on it
+    Label Label2;   // click area over the caption
     Form Window;
 };
 
 struct KeypadWindow {
-    KeypadWindow();
+    explicit KeypadWindow(std::vector<Form*>& all);
     Label Label1;   // display
     TextBox Text1;  // code entry
     Label Label2;   // caption of the button
-    Label Label3;   // what takes the click on it
+    Label Label3;   // click area over the caption
     Form Window;
 };
 
 struct SystemWindow {
-    SystemWindow();
+    explicit SystemWindow(std::vector<Form*>& all);
     ListBox List1;  // saved games
     TextBox Text1;  // command line
     Label Label1;   // caption of the button
-    Label Label2;   // what takes the click on it
+    Label Label2;   // click area over the caption
     Form Window;
 };
 
 struct BackdropWindow {
-    Form Window{.Layout = Form5Layout, .Controls = {}};
+    explicit BackdropWindow(std::vector<Form*>& all);
+    Form Window;
 };
 
 struct Windows {
-    Windows();
+    Windows() = default;
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
-    MainWindow Form1;
-    TerminalWindow Form2;
-    KeypadWindow Form3;
-    SystemWindow Form4;
-    BackdropWindow Form5;
+    std::vector<Form*> All;  // stands first, because each window enters itself here
+    MainWindow Form1{All};
+    TerminalWindow Form2{All};
+    KeypadWindow Form3{All};
+    SystemWindow Form4{All};
+    BackdropWindow Form5{All};
 
-    std::array<Form*, 5> All;
     Form* Active = nullptr;  // the window that has the focus
     bool BusyPointer = false;
 };

@@ -7,11 +7,13 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 
-#include "ui/windows.h"
+#include "core/verbs.h"
+#include "ui/layouts.h"
 
 namespace {
 
-// These are not those of the game's own Qt desktop: it is not to be linked into what it is measured against.
+// The following repeats some of ui/qt/look.cpp, because the game's Qt desktop must not be linked into the window that it is measured
+// against.
 constexpr int RowHeight = 16;
 
 QRect Pixels(const ui::Rect& twips) {
@@ -72,9 +74,8 @@ int main(int argc, char** argv) {
         }
         Dress(*widget, layout);
     }
-    const ui::MainWindow model;
-    for (const std::string& verb : model.List2[0].Entries()) {
-        verbs->addItem(QString::fromStdString(verb));
+    for (const std::string_view name : verb::Names) {
+        verbs->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
         verbs->item(verbs->count() - 1)->setSizeHint({0, RowHeight});
     }
     QObject::connect(verbs, &QListWidget::itemPressed, input, [input](const QListWidgetItem* item) { input->setText(item->text()); });

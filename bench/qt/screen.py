@@ -16,8 +16,8 @@ import time
 WIDTH, HEIGHT = 1280, 1024
 STILL, PATIENCE = 0.25, 15.0  # seconds
 
-# The game stops at a message box where there is no Arial; here the face that stands in for it goes by that name. Its cache comes first,
-# so that the machine's own is not written.
+# Without Arial the game stops at a message box, so Liberation Sans goes by that name here. The cache of these settings is named first, so
+# that the machine's own is not written.
 FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "urn:fontconfig:fonts.dtd">
 <fontconfig><cachedir>{cache}</cachedir><include>/etc/fonts/fonts.conf</include>
 <match target="scan"><test name="family"><string>Liberation Sans</string></test>
@@ -76,7 +76,7 @@ class Screen:
         self.before = self.pixels(*area)
 
     def corner(self, window):
-        """Of a window's client area; xdotool counts the frame twice."""
+        """The top left corner of the window's client area. xdotool is not asked, because it counts the frame twice."""
         x, y, child = ctypes.c_int(), ctypes.c_int(), ctypes.c_ulong()
         root = ctypes.c_ulong(self.root(self.display))
         self.x11.XTranslateCoordinates(self.display, ctypes.c_ulong(window), root, 0, 0, ctypes.byref(x), ctypes.byref(y),

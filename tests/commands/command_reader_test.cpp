@@ -17,6 +17,7 @@ TEST(Title, IsReachedWithoutTheFontButNotWithoutTheTexts) {
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].Title, "POZOR!");
     EXPECT_EQ(play.Output(), play.Text(71));
+    EXPECT_EQ(play.State().CurrentSector, sector::None);
 }
 
 TEST(Game, EndsAtTheCommandAfterItsStoryHasEnded) {

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Plays the real window with a real mouse: panels that keep what is behind them shut, and the ways out of the game.
+"""Plays the real window with a real mouse and keyboard: panels that keep what is behind them shut, the ways out of the game, and what is
+none of them.
 
 Usage: mouse.py PROGRAM_FOLDER
 """
@@ -13,6 +14,9 @@ VERBS = ["Jdi", "Prozkoumej", "Použij", "Vezmi", "Polož", "Otevři", "Zavři",
 LISTS = {"carried": (16, 416), "verbs": (224, 448), "objects": (368, 448), "targets": (512, 448)}  # top left corners in pixels
 PROCEED = (188, 494)
 SYSTEM_PANEL = (312, 217)
+# Keys by their place, which is called after what it types on an American keyboard. With Ctrl, the one right of P types Escape on a
+# Czech keyboard as well, where it is ú.
+RIGHT_OF_P, EQUALS, A, V = 34, 21, 38, 55
 
 
 class Player:
@@ -26,7 +30,7 @@ class Player:
         self.click(MAIN[0] + place[0], MAIN[1] + place[1])
 
     def click_entry(self, name, index, count=5):
-        """Entry `index` of a list of `count`, of which five are in sight: the wheel turns three rows at a time, as far as there are any."""
+        """Entry `index` of a list of `count`, of which five are in sight: the wheel turns three rows at a time, if there are so many."""
         left, top = LISTS[name]
         turns = index // 4 if count > 5 else 0
         if count > 5:
@@ -57,16 +61,22 @@ class Player:
 
 def save_and_quit(on):
     player = Player(on)
+    on.lay_out_keyboard("us")
     player.begin()
+    player.keys(f"ctrl+{RIGHT_OF_P}")
     player.command("Ulož pozici")
     on.window("System Panel")
-    on.xdotool("type", "--delay", "20", "kajuta")
-    # A click on the main window, which must not take any, between the word and the button.
+    on.lay_out_keyboard("cz")
+    player.keys(f"ctrl+{RIGHT_OF_P}", f"ISO_Level3_Shift+{V}", EQUALS, A)  # @ and, composed of accent and letter, á
+    # The main window must ignore a click while the panel is open.
     player.click_main((MAIN_SIZE[0] - 10, 530))
     left, top = ((screen - size) // 2 for screen, size in zip(SCREEN, SYSTEM_PANEL))
     player.click(left + 270, top + 196)
-    wait_for("the save", (on.program_folder / "data/saves/kajuta.TVX").exists)
+    wait_for("the save", (on.program_folder / "data/saves/@á.TVX").exists)
     wait_for("the panel to go", lambda: not on.shows("System Panel"))
+    player.keys(f"ctrl+{RIGHT_OF_P}")
+    time.sleep(0.3)
+    assert on.game.poll() is None, "a shortcut has ended the game"
     player.keys("Escape")
     assert on.exit_code() == 0
 
@@ -80,7 +90,7 @@ def leave_from_inside_a_panel(on):
     time.sleep(0.3)
     assert on.shows("Terminal Active"), "only 'exit' leaves the terminal"
     on.xdotool("type", "--delay", "20", "exit")
-    player.keys("Return")
+    player.keys("Tab", "space")  # the button
     wait_for("the terminal to go", lambda: not on.shows("Terminal Active"))
     player.command("Použij", ("objects", 0), ("targets", 6, 7))
     on.window("Terminal Active")

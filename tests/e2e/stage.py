@@ -44,7 +44,7 @@ class Stage:
         self.program_folder = Path(folder) / "game"
         shutil.copytree(program_folder, self.program_folder)
         reader, writer = os.pipe()
-        # A server that starts anew when its first client leaves would take the window manager with it.
+        # With -noreset, because otherwise the server starts anew when its first client leaves, and the window manager ends with it.
         start(["Xvfb", "-screen", "0", f"{SCREEN[0]}x{SCREEN[1]}x24", "-displayfd", str(writer), "-nolisten", "tcp", "-noreset"],
               running, pass_fds=[writer], stderr=subprocess.DEVNULL)
         os.close(writer)
@@ -52,12 +52,12 @@ class Stage:
             display = ":" + numbers.readline().strip()
         self.environment = {name: value for name, value in os.environ.items()
                             if not name.startswith("QT_") and name != "WAYLAND_DISPLAY"}
-        self.environment |= {"DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": folder} | settings
+        self.environment |= {"DISPLAY": display, "HOME": folder, "XDG_RUNTIME_DIR": folder, "LC_ALL": "C.UTF-8"} | settings
         start(["openbox", "--sm-disable"], running, env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for("the window manager", self._managed)
 
     def _managed(self):
-        # Whoever answers for desktops has taken the screen over.
+        # Only a window manager knows the number of desktops, so an answer means that it is there.
         answer = subprocess.run(["xdotool", "get_num_desktops"], env=self.environment, capture_output=True, text=True, check=False)
         return answer.returncode == 0 and answer.stdout.strip().isdigit()
 
@@ -67,6 +67,9 @@ class Stage:
     def xdotool(self, *arguments):
         answer = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, capture_output=True, text=True, check=False)
         return answer.stdout.split()
+
+    def lay_out_keyboard(self, layout):
+        subprocess.run(["setxkbmap", layout], env=self.environment, check=True)
 
     def hand(self, commands):
         """Hands a line of commands to an xdotool that stays, and does not wait for it."""

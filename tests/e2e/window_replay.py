@@ -3,8 +3,8 @@
 
 Usage: window_replay.py PROGRAM_FOLDER, on a session bus of its own (dbus-run-session); it stands in for `replay`.
 
-It knows the events of the winning game, and answers to `show` what tests/walkthroughs/run.py asks for. An event ends when the screen
-shows an effect of it; a message box is waited out in vain, since it shuts the windows.
+It knows the events of the winning game, and answers `show` as tests/walkthroughs/beside.py explains. An event ends when the screen shows
+an effect of it; a message box is waited out in vain, because it shuts the windows.
 """
 
 import json
@@ -23,9 +23,11 @@ MOMENT = "2025-11-29 08:48:03"
 SPOKEN = {
     "Form1.Text1": "Vyprávění", "Form1.Text2": "Sestavený příkaz", "Form1.List1": "Neseš", "Form1.List2(0)": "Slovesa",
     "Form1.List2(1)": "První předmět", "Form1.List2(2)": "Druhý předmět", "Form1.Label3": "Stav příkazu",
-    "Form2.Text1": "Výpis terminálu", "Form2.Text2": "Příkaz terminálu",
-    "Form3.Label1": "Displej číselníku", "Form3.Text1": "Kód dveří", "Form3.Label3": "Odejít od číselníku"}
-FOCUSED, SHOWING = 1 << 12, 1 << 25  # states
+    "Form2.Text1": "Výpis terminálu", "Form2.Text2": "Příkaz terminálu", "Form2.Label1": "Stav terminálu",
+    "Form3.Label1": "Displej číselníku", "Form3.Text1": "Kód dveří", "Form3.Label2": "Stav číselníku",
+    "Form3.Label3": "Odejít od číselníku"}
+LIGHTS = {"svítí": [192, 255, 255], "zhaslo": [0, 128, 128]}  # what a screen reader says of a colour
+FOCUSED, SELECTED, SHOWING = 1 << 12, 1 << 23, 1 << 25  # states
 
 CHILDREN = ("org.a11y.atspi.Accessible", "GetChildren", None)
 STATES = ("org.a11y.atspi.Accessible", "GetState", None)
@@ -36,7 +38,7 @@ NAME, DESCRIPTION = (("org.freedesktop.DBus.Properties", "Get", GLib.Variant("(s
 
 
 class Bus:
-    """The accessibility bus, asked many things at once: on a busy machine it is the waiting that takes long."""
+    """The accessibility bus, asked many things at once, because on a busy machine each wait takes long."""
 
     def __init__(self):
         address = Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
@@ -91,15 +93,36 @@ class Window:
 
     def show(self):
         self.read()  # once more: the event may have come between two answers
-        forms = {form: {"controls": {}} for form in ("Form1", "Form2", "Form3")}
-        for form, control in (name.split(".") for name in SPOKEN if "Text" in name):
-            text, shown = self.texts.get(f"{form}.{control}", ("", False))
-            forms[form]["controls"][control] = {"text": text.replace("\n", "\r\n"), "visible": shown or form != "Form1"}
-        carried = self.bus.ask(self.bus.ask([self.controls["Form1.List1"]], CHILDREN)[0], NAME)
-        display = self.labels.get("Form3.Label1", ["Displej: --- SAFE MODE ---"])[0].partition(": ")[2]
-        forms["Form1"]["controls"]["List1"] = {"entries": carried}
-        forms["Form3"]["controls"]["Label1"] = {"caption": display}
-        return {"messageBoxes": [], "forms": forms}
+        forms = {form: {"visible": any(showing for name, (_, showing) in self.texts.items() if name.startswith(form)), "controls": {}}
+                 for form in ("Form1", "Form2", "Form3")}
+        # What run.py asks of panels that have not been on the screen yet.
+        forms["Form2"]["controls"] = {name: {"text": "", "visible": True} for name in ("Text1", "Text2")}
+        forms["Form3"]["controls"] = {"Text1": {"text": ""}, "Label1": {"caption": "--- SAFE MODE ---"}}
+        for name, facts in [*self.show_texts(forms), *self.show_labels(), *self.show_lists()]:
+            form, control = name.split(".")
+            forms[form]["controls"][control] = facts
+        states = self.bus.ask(self.controls.values(), STATES)
+        focus = next((name for name, (state, _) in zip(self.controls, states) if state & FOCUSED), None)
+        modal = next((form for form in ("Form2", "Form3") if forms[form]["visible"]), None)
+        return {"modal": modal, "focus": focus, "messageBoxes": [], "forms": forms}
+
+    def show_texts(self, forms):
+        for name, (text, showing) in self.texts.items():
+            # Whether a box of a hidden window is visible nobody can see; the headless player says that it is.
+            yield name, {"text": text.replace("\n", "\r\n"), "visible": showing or not forms[name.split(".")[0]]["visible"]}
+
+    def show_labels(self):
+        for name, (spoken, light) in self.labels.items():
+            yield name, {"caption": spoken.partition(": ")[2]} | ({"colour": LIGHTS[light]} if light else {})
+
+    def show_lists(self):
+        lists = [name for name in self.controls if "List" in name]
+        entries = self.bus.ask([self.controls[name] for name in lists], CHILDREN)
+        answers = iter(self.bus.ask(sum(entries, []), NAME, STATES))
+        for name, own in zip(lists, entries):
+            shown = [(next(answers), bool(next(answers)[0] & SELECTED)) for _ in own]
+            selected = (index for index, (_, is_selected) in enumerate(shown) if is_selected)
+            yield name, {"entries": [entry for entry, _ in shown], "selected": next(selected, -1)}
 
     def click(self, name, entry):
         place = self.bus.ask([self.controls[name]], PLACE)[0]
@@ -109,7 +132,7 @@ class Window:
         self.on.hand(f"mousemove {left + width // 2} {top + height // 2} mousedown 1 mouseup 1")
 
     def place_of_entry(self, name, entry, box):
-        """Turns the wheel until the entry is in sight; what is not has no height."""
+        """Turns the wheel until the entry is in sight; an entry out of sight has no height."""
         entries = self.bus.ask([self.controls[name]], CHILDREN)[0]
         answers = self.bus.ask(entries, NAME, PLACE)
         index, places = answers[::2].index(entry), answers[1::2]

@@ -1,4 +1,4 @@
-// Each row of odd_values.txt, in a game whose every flag is odd.
+// Plays each row of odd_values.txt in a game in which every flag has a value that is neither True nor False nor a stage.
 #include <algorithm>
 #include <fstream>
 
@@ -29,16 +29,16 @@ class Row {
 public:
     explicit Row(const std::string& row) : cells(Split(row, " | ")) {
         for (const std::string& condition : Split(cells[3], ", ")) {
-            const auto flag = std::ranges::find(StoryFlags(), condition.substr(0, condition.find(' ')), &StoryFlag::Name);
-            if (flag != StoryFlags().end()) conditions.emplace_back(flag->Value, std::stoi(condition.substr(flag->Name.size())));
+            const auto flag = std::ranges::find(StoryFlags, condition.substr(0, condition.find(' ')), &StoryFlag::Name);
+            if (flag != StoryFlags.end()) conditions.emplace_back(flag->Value, std::stoi(condition.substr(flag->Name.size())));
         }
     }
 
     std::size_t Conditions() const { return conditions.size(); }
 
-    // Whether the reply comes while one of the conditions is odd, or none.
+    // Whether the reply comes when all conditions hold but the one of that index. With the number of conditions as index, all hold.
     bool Replies(Play& play, std::size_t odd) const {
-        for (const StoryFlag& flag : StoryFlags()) play.State().*flag.Value = Odd;
+        for (const StoryFlag& flag : StoryFlags) play.State().*flag.Value = Odd;
         for (std::size_t i = 0; i < conditions.size(); ++i) {
             if (i != odd) play.State().*conditions[i].first = static_cast<std::int16_t>(conditions[i].second);
         }
@@ -57,7 +57,7 @@ private:
 
     void Walk(Play& play) const {
         Carry(play, Item::Diskette);
-        play.MoveTo(static_cast<std::int16_t>(std::stoi(cells[1])));
+        StandIn(play.State(), static_cast<std::int16_t>(std::stoi(cells[1])));
         play.Go(cells[1].substr(cells[1].find(' ') + 1));
     }
 

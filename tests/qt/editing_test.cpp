@@ -18,7 +18,7 @@ namespace {
 struct Terminal : Screen {
     Terminal() {
         Show(windows.Form2.Window);
-        Do([this] { GiveFocus(windows, box); });
+        Do([this] { GiveFocus(windows, &box); });
     }
     TextBox& box = windows.Form2.Text2;
     qt::InputLine& line = Widget<qt::InputLine>(windows.Form2.Window, &windows.Form2.Text2);
@@ -63,6 +63,35 @@ TEST(QtInputLine, TakesComposedLettersLikeTypedOnes) {
     EXPECT_EQ(heard, U"řxň");
     EXPECT_EQ(screen.box.Text(), "řň");
     EXPECT_EQ(screen.box.Caret(), screen.box.Text().size());
+}
+
+TEST(QtInputLine, HearsNoShortcutsButWhatAltGrTypes) {
+    Terminal screen;
+    std::u32string heard;
+    screen.box.KeyPress = [&](char32_t key) {
+        heard += key;
+        return false;
+    };
+    const auto press = [&](int key, Qt::KeyboardModifiers modifiers, const char* text) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers, QString(text));
+        QCoreApplication::sendEvent(&screen.line, &event);
+    };
+    press(Qt::Key_BracketLeft, Qt::ControlModifier, "\x1B");
+    press(0xDA, Qt::ControlModifier, "\x1B");  // ú on a Czech keyboard
+    press(Qt::Key_M, Qt::ControlModifier, "\r");
+    press(Qt::Key_H, Qt::ControlModifier, "\b");
+    press(Qt::Key_Return, Qt::ControlModifier, "\r");
+    press(Qt::Key_Escape, Qt::AltModifier, "\x1B");
+    press(Qt::Key_A, Qt::AltModifier, "a");
+    press(Qt::Key_A, Qt::MetaModifier, "a");
+    press(Qt::Key_Delete, Qt::NoModifier, "\x7F");
+    EXPECT_EQ(heard, U"");
+    press(Qt::Key_At, Qt::GroupSwitchModifier, "@");
+    press(0x158, Qt::ShiftModifier, "Ř");
+    EXPECT_EQ(heard, U"@Ř");
+    EXPECT_EQ(screen.box.Text(), "@Ř");
+    QTest::keyClick(&screen.line, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(screen.line.selectedText(), QString("@Ř"));
 }
 
 TEST(QtInputLine, EditsAtTheCaretAndLeavesTheRestToTheClipboard) {
@@ -174,25 +203,65 @@ TEST(QtLists, IgnoreAClickBelowTheLastEntry) {
     QTest::mouseClick(widget.viewport(), Qt::LeftButton, {}, {10, 40});
 }
 
-TEST(QtFocus, WalksThePanelsAndAlwaysReturnsInTheMainWindow) {
+TEST(QtFocus, WalksFromControlToControlAndStaysTheProgramsOwn) {
     Screen screen;
-    screen.Show(screen.windows.Form4.Window);
-    auto& panel = screen.Widget(screen.windows.Form4.Window);
-    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.List1)->hasFocus());
-    QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
-    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.Text1)->hasFocus());
-    QTest::keyClick(panel.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form4.List1)->hasFocus());
-
+    int proceeded = 0;
+    screen.windows.Form1.Label1.Click = [&] { ++proceeded; };
+    std::vector<int> keys, clicked;
+    screen.windows.Form1.Text2.KeyDown = [&](int key) { keys.push_back(key); };
+    screen.windows.Form1.List2[0].Click = [&] { clicked.push_back(screen.windows.Form1.List2[0].Selected()); };
     screen.Show(screen.windows.Form1.Window);
     auto& main = screen.Widget(screen.windows.Form1.Window);
-    QTest::keyClick(main.focusWidget(), Qt::Key_Tab);
-    EXPECT_TRUE(main.WidgetOf(&screen.windows.Form1.Text2)->hasFocus());
-    QTest::mouseClick(dynamic_cast<qt::EntryList*>(main.WidgetOf(&screen.windows.Form1.List2[0]))->viewport(), Qt::LeftButton, {}, {9, 20});
-    EXPECT_EQ(screen.windows.Form1.List2[0].Selected(), 1);
-    EXPECT_TRUE(main.WidgetOf(&screen.windows.Form1.Text2)->hasFocus());
+    const std::vector<Control> stops = {&screen.windows.Form1.List1,    &screen.windows.Form1.List2[0], &screen.windows.Form1.List2[1],
+                                        &screen.windows.Form1.List2[2], &screen.windows.Form1.Label1,   &screen.windows.Form1.Text2};
+    for (const Control& stop : stops) {
+        QTest::keyClick(main.focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(main.WidgetOf(stop)->hasFocus()) << LayoutOf(stop).Name;
+        EXPECT_EQ(screen.windows.Form1.Window.Focused, Control(&screen.windows.Form1.Text2));
+        if (!std::holds_alternative<TextBox*>(stop)) QTest::keyClick(main.focusWidget(), Qt::Key_Backspace);
+        if (stop != stops[1]) continue;
+        QTest::keyClick(main.focusWidget(), Qt::Key_Down);  // moves the mark alone
+        QTest::keyClick(main.focusWidget(), Qt::Key_Down);
+        QTest::keyClick(main.focusWidget(), Qt::Key_Space);
+        QTest::keyClick(main.focusWidget(), Qt::Key_Up);
+        QTest::keyClick(main.focusWidget(), Qt::Key_Return);
+    }
+    EXPECT_THAT(clicked, ElementsAre(2, 1));
+    EXPECT_THAT(keys, ElementsAre(8, 8, 8, 8, 8));
+    QTest::keyClick(main.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(main.focusWidget(), Qt::Key_Space);
+    QTest::keyClick(main.focusWidget(), Qt::Key_Enter);
+    EXPECT_EQ(proceeded, 2);
+    QTest::mouseClick(dynamic_cast<qt::EntryList*>(main.WidgetOf(stops[1]))->viewport(), Qt::LeftButton, {}, {9, 20});
+    EXPECT_EQ(clicked.back(), 1);
+    EXPECT_TRUE(main.WidgetOf(stops[5])->hasFocus());
     screen.Show(screen.windows.Form5.Window);
     EXPECT_TRUE(main.isActiveWindow());
+}
+
+TEST(QtFocus, LeavesTheKeypadByKeyboardAndComesBackToItsCode) {
+    Screen screen;
+    const auto& keypad = screen.windows.Form3;
+    screen.Show(screen.windows.Form3.Window);
+    auto& panel = screen.Widget(keypad.Window);
+    QWidget& cancel = *panel.WidgetOf(&screen.windows.Form3.Label3);
+    QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(cancel.hasFocus());
+    const QImage focused = cancel.grab().toImage();
+    QTest::keyClick(&cancel, Qt::Key_7);
+    EXPECT_EQ(keypad.Text1.Text(), "7");
+    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form3.Text1)->hasFocus());
+    EXPECT_NE(cancel.grab().toImage(), focused);
+    QTest::keyClick(panel.focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(&cancel, Qt::Key_Space);
+    EXPECT_FALSE(panel.isVisible());
+    screen.Show(screen.windows.Form1.Window);
+    screen.Show(screen.windows.Form3.Window);
+    EXPECT_TRUE(panel.WidgetOf(&screen.windows.Form3.Text1)->hasFocus());
+    QTest::keyClick(panel.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(cancel.hasFocus());
+    QTest::keyClick(&cancel, Qt::Key_Return);
+    EXPECT_FALSE(panel.isVisible());
 }
 
 TEST(QtLabels, PassTheirClicksToTheAreaThatLiesOnThem) {

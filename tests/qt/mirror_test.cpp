@@ -1,6 +1,7 @@
 // Each window as the player sees it: sizes, places, colours, rows and the caret, in the pixels of whatever screen the test runs on.
 #include <gmock/gmock.h>
 
+#include <QFile>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QWindow>
@@ -67,6 +68,14 @@ TEST(QtWindows, HaveTheirLayoutToThePixel) {
                 << form->Layout.Name << '.' << LayoutOf(control).Name;
         }
     }
+}
+
+TEST(QtWindows, AreAsManyAsThereAre) {
+    Windows windows;
+    SystemWindow sixth{windows.All};
+    qt::QtDesktop desktop{windows};
+    desktop.Enter([&] { Show(windows, sixth.Window); });
+    EXPECT_TRUE(desktop.WidgetOf(sixth.Window).isVisible());
 }
 
 TEST(QtWindows, StandInTheMiddleAndTheBackdropFillsTheScreen) {
@@ -158,7 +167,7 @@ TEST(QtLists, HaveRowsOfSixteenPixelsAndCutNoLetter) {
         for (const Control& control : form->Controls) {
             if (!std::holds_alternative<ListBox*>(control)) continue;
             screen.Do([&] {
-                GiveFocus(screen.windows, form->Focused == control ? screen.windows.Form4.Text1 : screen.windows.Form1.Text2);
+                GiveFocus(screen.windows, form->Focused == control ? &screen.windows.Form4.Text1 : &screen.windows.Form1.Text2);
                 std::get<ListBox*>(control)->Clear();
                 for (int entry = 0; entry < 12; ++entry) std::get<ListBox*>(control)->Append(TallText);
             });
@@ -208,7 +217,7 @@ TEST(QtCaret, IsOneBySevenPixelsInAllFourInputBoxes) {
             auto* const* box = std::get_if<TextBox*>(&control);
             if (box == nullptr || (*box)->Layout.MultiLine) continue;
             screen.Show(*form);
-            screen.Do([&] { GiveFocus(screen.windows, **box); });
+            screen.Do([&] { GiveFocus(screen.windows, control); });
             auto& line = screen.Widget<qt::InputLine>(*form, control);
             ASSERT_TRUE(line.hasFocus()) << form->Layout.Name;
             const QImage picture = line.grab().toImage();
@@ -238,7 +247,7 @@ TEST(QtLists, ShowWhatIsSelectedAndWhereTheFocusIs) {
     };
     EXPECT_EQ(pixels(0, Qt::black), 10);
     EXPECT_THAT(pixels(1, qt::ToQt(Teal)), ::testing::AllOf(::testing::Gt(0), ::testing::Lt(10)));  // dotted
-    screen.Do([&] { GiveFocus(screen.windows, screen.windows.Form4.Text1); });
+    screen.Do([&] { GiveFocus(screen.windows, &screen.windows.Form4.Text1); });
     EXPECT_EQ(pixels(1, qt::ToQt(Teal)), 10);
 }
 
@@ -262,12 +271,12 @@ TEST(QtScreen, IsMissedInCzech) {
         qunsetenv("QT_QPA_PLATFORM");
         qputenv("DISPLAY", ":no such display");
         qputenv(variable, value);
-        const auto reason = qt::WhyNoScreen();
+        const auto reason = qt::ChoosePlatform();
         qputenv("QT_QPA_PLATFORM", platform);
         return reason.value_or("");
     };
-    EXPECT_EQ(qt::WhyNoScreen(), std::nullopt);
+    EXPECT_EQ(qt::ChoosePlatform(), std::nullopt);
     EXPECT_THAT(why("XDG_RUNTIME_DIR", folder.path().toUtf8()), ::testing::HasSubstr("žádný displej"));
-    QFile(folder.filePath("wayland-7")).open(QIODevice::WriteOnly);
+    ASSERT_TRUE(QFile(folder.filePath("wayland-7")).open(QIODevice::WriteOnly));
     EXPECT_THAT(why("WAYLAND_DISPLAY", "wayland-7"), ::testing::Not(::testing::HasSubstr("žádný displej")));
 }

@@ -33,7 +33,7 @@ struct Screen {
         Do([] {});
     }
 
-    // What a handler of the game would do.
+    // Runs the code as a handler of the game.
     void Do(const std::function<void()>& event) {
         desktop.Enter(event);
         QCoreApplication::processEvents();

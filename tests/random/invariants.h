@@ -7,7 +7,7 @@
 void ExpectSoundState(const GameState& state);
 void ExpectSoundWindows(const Game& game, const ui::MemoryDesktop& desktop);
 
-// A load brings the flags of the doors but leaves their exits as they are: until then the two agree.
+// Holds until a game is loaded, because a load brings the flags of the doors but leaves the exits as they are.
 void ExpectShutDoorsToStopThePlayer(const GameState& state);
 
 // Without a load in between.

@@ -27,7 +27,7 @@ int Setting(const char* name, int otherwise) {
     return value == nullptr ? otherwise : std::atoi(value);
 }
 
-// Where every game of the run saves and loads.
+// All games of the run save into this folder, so that they load each other's games too.
 fs::path MakeProgramFolder(const TemporaryFolder& folder) {
     fs::create_directories(folder.Path / "data" / "saves");
     fs::create_symlink(ORVEL_TEXTS_FILE, folder.Path / "data" / "texs.dat");
@@ -89,7 +89,7 @@ private:
         input.str(line);
         output.str("");
         script.PlayNextLine();
-        // What was played in a panel meanwhile has left its own answer.
+        // When the event opened a panel, the output holds the answers to what was played there, and says nothing of this event.
         const bool refused = played.size() == count && !output.str().empty();
         Check(before, refused);
         return true;
@@ -122,6 +122,7 @@ private:
         if (desktop.RanDry() || ended) return;
         ended = before.MayEnd && !refused;  // perhaps from inside the panel that an event has opened
         EXPECT_EQ(desktop.Running(), !ended);
+        ExpectNoFaults(desktop);
         ExpectSoundState(game.state);
         ExpectSoundWindows(game, desktop);
         if (!before.MayLoad) ExpectOnlyProgress(before.State, game.state);

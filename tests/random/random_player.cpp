@@ -11,8 +11,6 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::string_view NothingThere = "---";
-
 // How often each verb is chosen, in the order of the verb list.
 constexpr std::array VerbWeights{220, 140, 260, 110, 40, 110, 20, 110, 5, 6, 6, 2, 1};
 constexpr int AllVerbWeights = 1030;
@@ -140,7 +138,7 @@ std::string RandomPlayer::Garble(std::string_view line) {
     std::string garbled(line);
     for (int change = Below(3); change >= 0 && !garbled.empty(); --change) {
         const auto at = static_cast<std::size_t>(Below(static_cast<int>(garbled.size())));
-        // Only ASCII is taken away, lest half a character stay.
+        // Only ASCII is taken away, because of any other character this would take but one byte.
         const bool letter = static_cast<unsigned char>(garbled[at]) < 0x80 && Chance(60);
         if (letter)
             garbled.erase(at, 1);

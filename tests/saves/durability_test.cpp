@@ -37,7 +37,7 @@ private:
     decltype(SIG_DFL) handler = std::signal(SIGXFSZ, SIG_IGN);
 };
 
-// A folder that may only be read, for somebody whom permissions hold back.
+// Makes the folder read-only and, because permissions do not hold root back, the test another user.
 class ReadOnly {
 public:
     explicit ReadOnly(const fs::path& locked) : folder(locked) {
@@ -103,7 +103,7 @@ TEST(Durability, KeepsAWholeGameThroughAKillAtAnyMoment) {
 
 TEST(Durability, LetsTwoGamesSaveIntoOneFolder) {
     SavedGames play;
-    // What a game left behind that had this number, and one whose number another program has now.
+    // Drafts that games left behind: one with this test's process number, one with the number of another program that runs now.
     for (const pid_t number : {::getpid(), 1}) play.Put(".saving-" + std::to_string(number) + "-0.tmp", {1});
     const pid_t other = ::fork();
     if (other == 0) SaveWithoutEnd(play, ::open("/dev/null", O_WRONLY));
@@ -118,7 +118,7 @@ TEST(Durability, LetsTwoGamesSaveIntoOneFolder) {
     EXPECT_EQ(std::distance(fs::directory_iterator(play.Folder()), {}), 2);
 }
 
-// Saves while something is in the way; afterwards the old game must be there and nothing else, and a second try must succeed.
+// Saves while the obstacle is there. Afterwards only the old game must be there, and a second try must succeed.
 template <typename Obstacle, typename... Arguments>
 void ExpectRefusal(const std::string& reason, const Arguments&... arguments) {
     SavedGames play;
@@ -160,7 +160,7 @@ TEST(Durability, SaysThatAFileLiesWhereTheFolderShouldBe) {
     SavedGames play;
     fs::remove(play.Folder());
     std::ofstream(play.Folder()) << "cizí soubor";
-    EXPECT_THAT(play.Told([&] { ListSaves(play.game); }), HasSubstr("leží soubor"));
+    EXPECT_THAT(play.Told([&] { SaveNames(play.game); }), HasSubstr("leží soubor"));
     EXPECT_THAT(play.Save("hra"), HasSubstr("leží soubor"));
     EXPECT_EQ(fs::file_size(play.Folder()), 12u);
     fs::remove(play.Folder());

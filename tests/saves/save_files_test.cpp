@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/stages.h"
 #include "tests/saves/saved_games.h"
 
 namespace {
@@ -59,6 +60,19 @@ TEST(SaveFiles, ShowsAForeignNameWithQuestionMarks) {
     play.Put("\xFF\xC4.TVX", {});
     play.Put("日本.TVX", {});
     EXPECT_THAT(play.Listed(), ElementsAre("??", "??"));
+}
+
+TEST(SaveFiles, ListsAFileWithoutADotAndSaysWhyItCannotBeLoaded) {
+    SavedGames play;
+    play.game.state.GameStage = GameStage::Running;
+    play.game.state.DoorCode = "4711305";
+    play.Put("hrašTVX", EncodeSave(play.game.state, "hra", SomeKeys));
+    EXPECT_THAT(play.Listed(), ElementsAre("hra"));
+    EXPECT_THAT(play.Load("hra"), HasSubstr("hrašTVX nejde nahrát"));
+    EXPECT_TRUE(play.desktop.Running());
+    EXPECT_TRUE(HasUnsavedSteps(play.game));
+    play.Put("hra.tvx", EncodeSave(play.game.state, "hra", SomeKeys));
+    EXPECT_EQ(play.Load("hra"), "");
 }
 
 TEST(SaveFiles, WritesAGameWithALowerCaseExtensionOver) {

@@ -15,7 +15,7 @@ void SetWord(Bytes& file, std::size_t index, int word) {
     file[2 * index + 1] = static_cast<std::uint8_t>(word >> 8 & 0xFF);
 }
 
-// A game called "a" from the start state; the word that holds each field:
+// The places of fields, counted in words, in a game called "a" that was saved at the start:
 constexpr std::size_t NameLength = 0, NameCharacter = 2, Column = 3, FirstSlot = 5, Sector = 10, ItemCount = 11, FirstItem = 12;
 
 Bytes StartSave() {
@@ -64,6 +64,7 @@ TEST(SaveFormat, ReadsAndWritesTheGoldenSaveByteForByte) {
     EXPECT_EQ(state->CalledAwayDestination, 2);
     EXPECT_EQ(state->UniformPlaced, True);
     EXPECT_EQ(EncodeSave(*state, name, SomeKeys), golden);
+    EXPECT_EQ(EncodeSave(GameState{}, "", SomeKeys).size(), 2 * FixedSaveWords);
 }
 
 TEST(SaveFormat, BringsEveryStateBackWhateverTheKeys) {

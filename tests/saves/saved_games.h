@@ -1,4 +1,4 @@
-// A running game in a folder of its own, saved games that are ready to use, and the System Panel with a script of typed lines.
+// A running game in a folder of its own, with short ways to save, load and list, and to play the System Panel.
 #pragma once
 
 #include <filesystem>
@@ -20,9 +20,7 @@
 inline GameState StartState() {
     GameState state;
     BuildSectors(state.Sectors);
-    state.CurrentSector = 1;
-    state.PlayerX = 5;
-    state.PlayerY = 3;
+    StandIn(state, sector::Cabin);
     return state;
 }
 
@@ -54,12 +52,9 @@ struct SavedGames {
         return boxes.empty() ? "" : boxes.back().Text;
     }
 
-    std::vector<std::string> Listed() {
-        ListSaves(game);
-        return panel.List1.Entries();
-    }
+    std::vector<std::string> Listed() const { return SaveNames(game); }
 
-    // Opens the panel for a verb; each step is something the player does, and after the last one the script has run dry.
+    // Opens the panel for a verb and lets the player take the steps there. A panel that is still open after the last step ends the program.
     void Open(std::int16_t verb, std::vector<std::function<void()>> steps) {
         std::size_t next = 0;
         desktop.NextEvent = [&, steps = std::move(steps)] {
@@ -92,12 +87,10 @@ GameState RandomState(Random& random) {
     const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
     const auto anyWord = [&] { return static_cast<std::int16_t>(below(65536) - 32768); };
     GameState state = StartState();
-    state.CurrentSector = static_cast<std::int16_t>(1 + below(LastSector));
-    state.PlayerX = state.Sectors[state.CurrentSector].X;
-    state.PlayerY = state.Sectors[state.CurrentSector].Y;
+    StandIn(state, static_cast<std::int16_t>(1 + below(LastSector)));
     for (std::int16_t& item : state.Inventory) item = anyWord();
     for (std::int16_t& kind : state.TerminalMailbox) kind = anyWord();
-    for (const StoryFlag& flag : StoryFlags()) state.*flag.Value = anyWord();
+    for (const StoryFlag& flag : StoryFlags) state.*flag.Value = anyWord();
     for (std::int16_t sector = 1; sector <= LastSector; ++sector) {
         state.Sectors[sector].Items.resize(static_cast<std::size_t>(below(20)));
         for (std::int16_t& item : state.Sectors[sector].Items) item = anyWord();

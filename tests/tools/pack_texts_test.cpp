@@ -29,7 +29,7 @@ TextStore Decoded(const std::vector<std::uint16_t>& words, std::size_t bytes = S
     return TextStore::Decode(file);
 }
 
-// As many texts as the story has; the last code of the code page is among them.
+// Some text for the number: the first is empty, the others end with the last code of the code page.
 std::string Text(int number) {
     return number == 1 ? "" : std::string(static_cast<std::size_t>(number % 3), '~') + "Žlutý kůň ˙";
 }
@@ -49,7 +49,7 @@ TEST(PackedTexts, ComeBackByTheirNumbersAndAreHiddenByKeysOfTheirOwn) {
         keys.insert(words[position + 1]);
         for (std::size_t i = 0; i < words[position]; ++i) wrapped |= words[position + 2 + i] < words[position + 1];
     }
-    EXPECT_TRUE(wrapped);  // around sixteen bits
+    EXPECT_TRUE(wrapped);  // a code plus its key exceeded 16 bits
     EXPECT_GT(keys.size(), 200);
     for (int number = 1; number <= LastText; ++number) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), Text(number));
     for (const int number : {-1, 0, LastText + 1}) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), std::nullopt);

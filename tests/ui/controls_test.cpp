@@ -116,6 +116,7 @@ TEST(Controls, CountEveryChangeThatADesktopMustShow) {
 TEST(ListBox, ForgetsItsSelectionWhenItIsCleared) {
     ui::Windows windows;
     ui::ListBox& verbs = windows.Form1.List2[0];
+    for (const char* name : {"Jdi", "Prozkoumej", "Použij", "Vezmi"}) verbs.Append(name);
     EXPECT_EQ(verbs.SelectedEntry(), "");
     verbs.Select(3);
     EXPECT_EQ(verbs.SelectedEntry(), "Vezmi");
@@ -123,6 +124,16 @@ TEST(ListBox, ForgetsItsSelectionWhenItIsCleared) {
     verbs.Append("Jdi");
     EXPECT_EQ(verbs.Selected(), -1);
     EXPECT_EQ(verbs.Entry(1), "");
+}
+
+TEST(Windows, HaveEveryControlOfTheirLayoutInItsOrder) {
+    ui::Windows windows;
+    for (const ui::Form* form : windows.All) {
+        ASSERT_EQ(form->Controls.size(), form->Layout.Controls.size()) << form->Layout.Name;
+        for (std::size_t place = 0; place < form->Controls.size(); ++place) {
+            EXPECT_EQ(&ui::LayoutOf(form->Controls[place]), &form->Layout.Controls[place]) << form->Layout.Name << ' ' << place;
+        }
+    }
 }
 
 TEST(ListBox, TakesTheFocusThenTheSelectionThenTheClick) {

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "tests/play.h"
-#include "ui/errors.h"
 #include "ui/input.h"
 
 namespace {
@@ -65,16 +64,6 @@ TEST(ModalPanel, EndsTheProgramAtOnceWhenTheMainWindowIsClosedBehindIt) {
     EXPECT_FALSE(play.Desktop().RanDry());
     for (const ui::Form* form : play.Windows().All) EXPECT_FALSE(form->Visible) << form->Layout.Name;
     EXPECT_EQ(play.State().CommandObject, NumberOf(Item::CabinTerminal));
-}
-
-TEST(Event, ThatAFileSpoiledIsToldAndTheGameGoesOn) {
-    Play play = Play::InCabin();
-    play.Desktop().RunEvent([] { throw ui::GameError("Disk je plný."); });
-    const auto boxes = play.Desktop().TakeMessageBoxes();
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].Text, "Disk je plný.");
-    play.Clear();
-    EXPECT_FALSE(play.Ended());
 }
 
 }  // namespace

@@ -3,15 +3,15 @@
 
     guide.py DOCUMENT TRANSCRIPT ROAD
 
-What the document does not mark as needless are the steps of the road; all it tells is played, in the same order. Neither
-the walking, the doors, the login and the leaving of terminals nor the putting down of what fills the hands is a step.
+The commands that the document does not mark as needless must be the steps of the road, and the winning game must play all commands of the
+document in the same order. Walking, doors, login, leaving a terminal and putting things down are no steps.
 """
 import difflib
 import pathlib
 import re
 import sys
 
-# The old door is told: it is no passage but a step of the story.
+# "staré dveře" is not among these doors, because the old door is no passage but a step of the story.
 NO_STEP = re.compile(r"Jdi |Polož |Otevři (drátěné )?dveře|mj-perolax$|exit$")
 
 document, transcript, road = (pathlib.Path(name).read_text(encoding="utf-8") for name in sys.argv[1:4])

@@ -3,8 +3,8 @@
 
     road.py REPLAY PROGRAM_FOLDER SCRIPT TEXTS ROAD
 
-What leads to a step must have stood on the screen before it, at two times at least, and must be there for the asking when the step is
-due: the game is saved there, and somebody else loads it and looks. What fails is told in the language of the story's author.
+What leads to a step must have stood on the screen before it, at two times at least. When the step is due, the player must be able to see
+some of it again: the game is saved then, and a second player loads it and looks. Faults are told in Czech, for the author of the story.
 """
 import pathlib
 import re
@@ -32,6 +32,10 @@ class Step:
 
     def fault(self, what):
         return f"{self.place}: Krok „{self.command}“: {what}."
+
+
+def read_texts(path):
+    return dict(re.findall(r"^(\d+): (.+)$", path.read_text(encoding="utf-8"), re.MULTILINE))
 
 
 def read_road(path, texts):
@@ -97,7 +101,7 @@ class Map:
 
 
 class Visitor(run.Player):
-    """Plays on from the saved game by the words that a player reads, and takes nothing back with him."""
+    """A second player, who loads the saved game and carries commands out there. The game that saved it goes on unchanged."""
 
     def __init__(self, replay, folder, known):
         super().__init__(replay, folder)
@@ -209,7 +213,7 @@ class WinningGame:
 
 def main():
     replay, program_folder, script, texts_file, road = sys.argv[1], *map(pathlib.Path, sys.argv[2:6])
-    texts = dict(re.findall(r"^(\d+): (.+)$", texts_file.read_text(encoding="utf-8"), re.MULTILINE))
+    texts = read_texts(texts_file)
     with tempfile.TemporaryDirectory(prefix="orvel-road-") as folder:
         data = pathlib.Path(folder) / "data"
         (data / "saves").mkdir(parents=True)

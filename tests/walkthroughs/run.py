@@ -27,10 +27,13 @@ class Player:
         self.screen = self.look_after("")
 
     def look_after(self, event):
-        # In one piece: a game that ends leaves nobody to send the second line to.
+        # Both lines are sent at once, because a game that ends at the first does not wait for a second.
         self.process.stdin.write(f"{event}\nshow\n")
         self.process.stdin.flush()
-        report = json.loads(self.process.stdout.readline())
+        line = self.process.stdout.readline()
+        if not line:
+            sys.exit(self.process.wait() or "the player says nothing")
+        report = json.loads(line)
         if "refused" in report:
             sys.exit(f"{event}: {report['refused']}")
         self.ended = "ended" in report

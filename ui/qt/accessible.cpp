@@ -10,7 +10,7 @@ namespace ui::qt {
 
 namespace {
 
-// A caption is read after its name, as it changes; its colour is the state light.
+// The name is read with the caption, because the caption changes. The colour of the caption is the state light, read as the description.
 class AccessibleLabel final : public QAccessibleWidget {
 public:
     explicit AccessibleLabel(LabelArea& shown)

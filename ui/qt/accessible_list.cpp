@@ -33,7 +33,7 @@ QAccessible::State AccessibleEntry::state() const {
     state.selectable = true;
     state.selected = list->Model().Selected() == index;
     state.focusable = true;
-    state.focused = state.selected && list->hasFocus();
+    state.focused = list->hasFocus() && list->Marked() == index;
     state.disabled = !list->isEnabled();
     state.invisible = !list->isVisible();
     state.offscreen = list->RowRect(index).isEmpty();
@@ -76,12 +76,6 @@ int AccessibleList::indexOfChild(const QAccessibleInterface* entry) const {
         if (child(index) == entry) return index;
     }
     return -1;
-}
-
-QAccessible::State AccessibleList::state() const {
-    QAccessible::State state = QAccessibleWidget::state();
-    state.focusable = true;
-    return state;
 }
 
 }  // namespace ui::qt

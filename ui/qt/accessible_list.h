@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QPointer>
 #include <vector>
 
 #include "ui/qt/entry_list.h"
@@ -44,7 +45,6 @@ public:
     QAccessibleInterface* child(int index) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     int indexOfChild(const QAccessibleInterface* entry) const override;
-    QAccessible::State state() const override;
 
 private:
     EntryList& list;

@@ -3,6 +3,7 @@
 #include <xcb/xcb.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QLibraryInfo>
 #include <QProxyStyle>
@@ -38,7 +39,7 @@ bool HasWaylandSocket() {
     return !name.isEmpty() && QFile::exists(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR")).filePath(name));
 }
 
-// Qt is installed without it on some systems, and would abort.
+// Some systems have Qt without its Wayland plugin; Qt would abort there.
 bool KnowsWayland() {
     const QDir platforms(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms");
     return !platforms.entryList({"*wayland*"}).isEmpty();
@@ -46,10 +47,10 @@ bool KnowsWayland() {
 
 }  // namespace
 
-std::optional<std::string> WhyNoScreen() {
+std::optional<std::string> ChoosePlatform() {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return std::nullopt;
     if (qEnvironmentVariableIsSet("DISPLAY") && CanConnectToX11()) {
-        // Where Wayland is offered as well: only X11 lets a program place, shape and raise its windows.
+        // X11 even where Wayland is offered as well, because only X11 lets a program place, shape and raise its windows.
         qputenv("QT_QPA_PLATFORM", "xcb");
         return std::nullopt;
     }
@@ -66,7 +67,7 @@ Application::Application(int& argumentCount, char** arguments) : application(arg
     QApplication::setApplicationName("orvel-tavoren");
     QGuiApplication::setDesktopFileName("orvel-tavoren");
     QApplication::setQuitOnLastWindowClosed(false);
-    // These run exactly as wide, so that lines break where they would in Arial.
+    // Text is exactly as wide in these families, so lines break where they would in Arial.
     QFont::insertSubstitutions("Arial", {"Liberation Sans", "Arimo"});
     InstallAccessibility();
 }

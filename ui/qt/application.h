@@ -7,8 +7,9 @@
 
 namespace ui::qt {
 
-// A Czech sentence when there is no screen to show a window on. To be asked before the Application is made.
-std::optional<std::string> WhyNoScreen();
+// Makes Qt use X11 where both X11 and Wayland are there. Returns a Czech sentence when there is no screen to show a window on. Comes before
+// the Application.
+std::optional<std::string> ChoosePlatform();
 
 class Application {
 public:

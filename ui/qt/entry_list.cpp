@@ -1,10 +1,12 @@
 #include "ui/qt/entry_list.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "ui/input.h"
 #include "ui/qt/keys.h"
@@ -18,14 +20,15 @@ constexpr int TextMargin = 3;
 
 }  // namespace
 
-EntryList::EntryList(const Entrance& door, ListBox& mirrored, QWidget* parent)
-    : QAbstractScrollArea(parent), entrance(door), list(mirrored) {
+EntryList::EntryList(const EventSink& sink, ListBox& mirrored, QWidget* parent)
+    : QAbstractScrollArea(parent), events(sink), list(mirrored) {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setPalette(PaletteOf(list.Layout));
     setFont(ToQt(list.Layout.Font));
     setAccessibleName(ToQt(list.Layout.Spoken));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setGeometry(Pixels(list.Layout.Bounds));
+    setFocusPolicy(Qt::TabFocus);  // not by click, because after a click the program decides who has the focus
     verticalScrollBar()->setSingleStep(1);
 }
 
@@ -36,14 +39,15 @@ void EntryList::Mirror() {
         shown = list.Entries();
         verticalScrollBar()->setValue(0);
         FitScrollBar();
+        marked = 0;
     }
-    ScrollTo(list.Selected());
+    if (list.Selected() >= 0) Mark(list.Selected());
     viewport()->update();
 }
 
 void EntryList::Click(int index) {
     if (index < 0 || index >= EntryCount()) return;
-    entrance.Enter([this, index] { ClickEntry(entrance.Model, list, index); });
+    events.Enter([this, index] { ClickEntry(events.Model, list, index); });
 }
 
 QRect EntryList::RowRect(int index) const {
@@ -65,8 +69,20 @@ void EntryList::FitScrollBar() {
     verticalScrollBar()->setRange(0, std::max(0, EntryCount() - WholeRows()));
 }
 
+void EntryList::Mark(int index) {
+    const bool moved = std::exchange(marked, index) != index;
+    ScrollTo(index);
+    viewport()->update();
+    if (moved && hasFocus()) TellMarked();
+}
+
+void EntryList::TellMarked() {
+    QAccessibleEvent focused(this, QAccessible::Focus);
+    focused.setChild(marked);
+    if (marked < EntryCount()) QAccessible::updateAccessibility(&focused);
+}
+
 void EntryList::ScrollTo(int index) {
-    if (index < 0) return;
     const int top = verticalScrollBar()->value();
     verticalScrollBar()->setValue(std::clamp(top, index - WholeRows() + 1, index));
 }
@@ -84,22 +100,28 @@ void EntryList::paintEvent(QPaintEvent*) {
     }
     if (!hasFocus()) return;
     painter.setPen(QPen(palette().text().color(), 1, Qt::DotLine));
-    painter.drawRect(QRectF(RowRect(std::max(0, list.Selected()))).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawRect(QRectF(RowRect(marked)).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void EntryList::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
     const int index = verticalScrollBar()->value() + static_cast<int>(event->position().y()) / RowHeight;
-    if (event->button() == Qt::LeftButton && !RowRect(index).isEmpty()) Click(index);
+    if (index < EntryCount() && !RowRect(index).isEmpty()) return Click(index);
+    events.Enter([this] { GiveFocus(events.Model, &list); });
 }
 
-int EntryList::RowUnderKey(int key) const {
+bool EntryList::KeepsFocus() const {
+    const Form* const active = events.Model.Active;
+    return active != nullptr && active->Focused == Control(&list);
+}
+
+int EntryList::RowUnderKey(int key, int from) const {
     const int last = EntryCount() - 1;
-    const int selected = list.Selected();
     switch (key) {
-        case Qt::Key_Up: return std::max(selected - 1, 0);
-        case Qt::Key_Down: return std::min(selected + 1, last);
-        case Qt::Key_PageUp: return std::max(selected - WholeRows(), 0);
-        case Qt::Key_PageDown: return std::min(std::max(selected, 0) + WholeRows(), last);
+        case Qt::Key_Up: return std::max(from - 1, 0);
+        case Qt::Key_Down: return std::min(from + 1, last);
+        case Qt::Key_PageUp: return std::max(from - WholeRows(), 0);
+        case Qt::Key_PageDown: return std::min(std::max(from, 0) + WholeRows(), last);
         case Qt::Key_Home: return 0;
         case Qt::Key_End: return last;
         default: return -1;
@@ -107,14 +129,19 @@ int EntryList::RowUnderKey(int key) const {
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
-    if (const int row = RowUnderKey(event->key()); row >= 0) return Click(row);
-    if (const char32_t character = CharacterOf(*event)) return entrance.Enter([&] { PressKey(list, character); });
+    if (IsShortcut(*event)) return event->ignore();
+    const bool keeps = KeepsFocus();
+    if (const int row = RowUnderKey(event->key(), keeps ? list.Selected() : marked); row >= 0) return keeps ? Click(row) : Mark(row);
+    const char32_t character = CharacterOf(*event);
+    if (character != 0 && keeps) return events.Enter([&] { PressKey(list, character); });
+    if (character == U' ' || character == key::Enter) return Click(marked);
     event->ignore();
 }
 
 void EntryList::focusInEvent(QFocusEvent*) {
-    entrance.Enter([this] { GiveFocus(entrance.Model, list); });
+    events.Enter([this] { GiveFocus(events.Model, &list); });
     viewport()->update();
+    TellMarked();
 }
 
 void EntryList::focusOutEvent(QFocusEvent*) {

@@ -28,22 +28,23 @@ Qt::WindowFlags FlagsOf(const Form& form) {
 
 }  // namespace
 
-FormWidget::FormWidget(const Entrance& door, Form& mirrored) : QWidget(nullptr, FlagsOf(mirrored)), entrance(door), form(mirrored) {
+FormWidget::FormWidget(const EventSink& sink, Form& mirrored) : QWidget(nullptr, FlagsOf(mirrored)), events(sink), form(mirrored) {
     setWindowTitle(ToQt(form.Layout.Caption));
     setAccessibleName(windowTitle());
     setAttribute(Qt::WA_OpaquePaintEvent);
     if (!form.Layout.Backdrop) setFixedSize(form.Layout.Width / TwipsPerPixel, form.Layout.Height / TwipsPerPixel);
     setAttribute(Qt::WA_ShowWithoutActivating, form.Layout.Backdrop);
+    setFocusPolicy(Qt::ClickFocus);  // a click on a list or a button comes here and is passed on as the program wants
     LoadPicture();
     for (const Control& control : form.Controls) controls.push_back(MakeWidget(control));
 }
 
 FormWidget::ControlWidget FormWidget::MakeWidget(const Control& control) {
-    if (auto* const* list = std::get_if<ListBox*>(&control)) return new EntryList(entrance, **list, this);
-    if (auto* const* label = std::get_if<Label*>(&control)) return new LabelArea(entrance, **label, this);
+    if (auto* const* list = std::get_if<ListBox*>(&control)) return new EntryList(events, **list, this);
+    if (auto* const* label = std::get_if<Label*>(&control)) return new LabelArea(events, **label, this);
     TextBox& box = *std::get<TextBox*>(control);
-    if (box.Layout.MultiLine) return new OutputView(entrance, box, this);
-    return new InputLine(entrance, box, this);
+    if (box.Layout.MultiLine) return new OutputView(events, box, this);
+    return new InputLine(events, box, this);
 }
 
 QWidget* FormWidget::WidgetOf(const Control& control) const {
@@ -58,6 +59,7 @@ void FormWidget::Mirror(bool reachable, const FormWidget* owner) {
     for (const ControlWidget& control : controls) std::visit([](auto* widget) { widget->Mirror(); }, control);
     if (form.Visible && !isVisible()) Place(owner);
     setVisible(form.Visible);
+    if (!form.Visible) mirroredFocus.reset();
 }
 
 void FormWidget::MirrorLook() {
@@ -70,7 +72,7 @@ void FormWidget::Place(const FormWidget* owner) {
     const QRect screenArea = screen()->geometry();
     if (form.Layout.Backdrop) {
         setGeometry(screenArea);
-        winId();  // makes the window, so that it appears behind the others at once
+        winId();  // makes the native window, because only that can be put behind the others before it appears
         return lower();
     }
     QRect place(QPoint(), size());
@@ -82,16 +84,21 @@ void FormWidget::Place(const FormWidget* owner) {
 }
 
 void FormWidget::MirrorFocus() {
-    if (form.Focused) WidgetOf(*form.Focused)->setFocus();
+    const bool moved = std::exchange(mirroredFocus, form.Focused) != form.Focused;
+    if (moved || focusWidget() == nullptr) FocusAsProgram();
     if (!isActiveWindow()) {
         raise();
         activateWindow();
     }
 }
 
+void FormWidget::FocusAsProgram() {
+    if (form.Focused) WidgetOf(*form.Focused)->setFocus();
+}
+
 void FormWidget::TakeFocus() {
-    entrance.Enter([this] {
-        if (isEnabled()) GiveFocus(entrance.Model, form);
+    events.Enter([this] {
+        if (isEnabled()) GiveFocus(events.Model, form);
     });
 }
 
@@ -107,19 +114,24 @@ void FormWidget::mousePressEvent(QMouseEvent*) {
 
 void FormWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (form.CloseBox) entrance.Close([this] { form.CloseBox(); });
+    if (form.CloseBox) events.Close([this] { form.CloseBox(); });
 }
 
 void FormWidget::keyPressEvent(QKeyEvent* event) {
-    if (!event->matches(QKeySequence::Copy)) return event->ignore();
+    if (event->matches(QKeySequence::Copy)) return CopyOutput();
+    QObject* const listener = form.Focused ? WidgetOf(*form.Focused) : nullptr;
+    if (listener == nullptr || listener == focusWidget()) return event->ignore();
+    listener->event(event);  // not by sendEvent, because Qt would bring an ignored key back here
+}
+
+void FormWidget::CopyOutput() {
     for (const ControlWidget& control : controls) {
         if (auto* const* view = std::get_if<OutputView*>(&control)) (*view)->copy();
     }
 }
 
-bool FormWidget::focusNextPrevChild(bool next) {
-    entrance.Enter([this, next] { WalkTabOrder(entrance.Model, form, next); });
-    return true;
+void FormWidget::focusInEvent(QFocusEvent*) {
+    FocusAsProgram();
 }
 
 bool FormWidget::LoadPicture() {
@@ -127,7 +139,7 @@ bool FormWidget::LoadPicture() {
 }
 
 void FormWidget::paintEvent(QPaintEvent*) {
-    LoadPicture();  // it may have come to a screen of another density
+    LoadPicture();  // because the window may have been moved to a screen of another density
     QPainter painter(this);
     const QPixmap& background = picture.Loaded();
     if (background.isNull()) return painter.fillRect(rect(), ToQt(form.Layout.Background));

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <variant>
 #include <vector>
 
-#include "ui/qt/entrance.h"
 #include "ui/qt/entry_list.h"
+#include "ui/qt/event_sink.h"
 #include "ui/qt/input_line.h"
 #include "ui/qt/label_area.h"
 #include "ui/qt/output_view.h"
@@ -16,11 +17,13 @@ namespace ui::qt {
 
 class FormWidget final : public QWidget {
 public:
-    FormWidget(const Entrance& door, Form& mirrored);
+    FormWidget(const EventSink& sink, Form& mirrored);
 
-    // An unreachable window is one behind a modal one. A window that appears stands in the middle of its owner, and stays above it;
+    // A window behind a modal one is not reachable. A window that appears stands in the middle of its owner, and stays above it;
     // without an owner it stands in the middle of the screen.
     void Mirror(bool reachable, const FormWidget* owner);
+    // Moves the keyboard's focus when the program's focus has moved. Tab leads the keyboard alone to lists and buttons, and the keys that
+    // they do not use go to the control that has the program's focus.
     void MirrorFocus();
 
     Form& Model() const { return form; }
@@ -29,10 +32,10 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
 
 private:
     using ControlWidget = std::variant<OutputView*, InputLine*, EntryList*, LabelArea*>;
@@ -41,13 +44,16 @@ private:
     void MirrorLook();
     void Place(const FormWidget* owner);
     void TakeFocus();
-    bool LoadPicture();  // true: it is a new one
+    void FocusAsProgram();
+    void CopyOutput();
+    bool LoadPicture();  // true: there is something new to show
 
-    const Entrance& entrance;
+    const EventSink& events;
     Form& form;
     std::vector<ControlWidget> controls;  // in the order of the form's
     Picture picture;
     std::filesystem::path mirroredIcon;
+    std::optional<Control> mirroredFocus;
 };
 
 }  // namespace ui::qt

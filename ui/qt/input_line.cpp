@@ -13,14 +13,13 @@
 
 namespace ui::qt {
 
-InputLine::InputLine(const Entrance& door, TextBox& mirrored, QWidget* parent) : QLineEdit(parent), entrance(door), box(mirrored) {
+InputLine::InputLine(const EventSink& sink, TextBox& mirrored, QWidget* parent) : QLineEdit(parent), events(sink), box(mirrored) {
     setFrame(false);
     setTextMargins(1, 0, 1, 0);
     setPalette(PaletteOf(box.Layout));
     setFont(ToQt(box.Layout.Font));
     setAccessibleName(ToQt(box.Layout.Spoken));
     setReadOnly(box.Layout.ReadOnly);
-    setFocusPolicy(Qt::ClickFocus);
     setGeometry(Pixels(box.Layout.Bounds));
     connect(this, &QLineEdit::textChanged, [this] { Report(); });
     connect(this, &QLineEdit::cursorPositionChanged, [this] {
@@ -33,7 +32,7 @@ void InputLine::Mirror() {
     if (mirroredChanges == box.Changes()) return;
     mirroredChanges = box.Changes();
     setVisible(box.Visible());
-    // A text or a place that already agrees is left alone: setting it would undo the player's selection.
+    // Only what differs is set, because setting it undoes the player's selection.
     if (const QString content = ToQt(box.Text()); content != text()) setText(content);
     const auto before = ToQt(std::string_view(box.Text()).substr(0, box.Caret())).size();
     if (before != cursorPosition()) setCursorPosition(static_cast<int>(before));
@@ -56,8 +55,8 @@ void InputLine::paintEvent(QPaintEvent* event) {
 }
 
 bool InputLine::Announce(char32_t character) {
-    bool swallowed = true;  // so it stays when the announcement ends the game
-    entrance.Enter([&] { swallowed = AnnounceKey(box, character); });
+    bool swallowed = true;  // the answer when the announcement ends the game
+    events.Enter([&] { swallowed = AnnounceKey(box, character); });
     return swallowed;
 }
 
@@ -65,15 +64,23 @@ void InputLine::Report() {
     const std::string before = FromQt(text().left(cursorPosition()));
     const std::string content = before + FromQt(text().mid(cursorPosition()));
     if (content == box.Text() && before.size() == box.Caret()) return;
-    entrance.Enter([&] { box.EditText(content, before.size()); });
+    events.Enter([&] { box.EditText(content, before.size()); });
 }
 
 void InputLine::keyPressEvent(QKeyEvent* event) {
     // With nothing selected here, the copy key is meant for the output.
     if (event->matches(QKeySequence::Copy) && !hasSelectedText()) return event->ignore();
+    if (IsShortcut(*event)) return PassShortcut(*event);
     const char32_t character = CharacterOf(*event);
+    if (character != 0 && !isReadOnly()) setFocus();  // because the key may have been pressed on a button
     if (character != 0 && Announce(character)) return;
     QLineEdit::keyPressEvent(event);
+}
+
+void InputLine::PassShortcut(QKeyEvent& event) {
+    QKeyEvent withoutText(event.type(), event.key(), event.modifiers());  // because Qt would type the "a" of Alt+A
+    QLineEdit::keyPressEvent(&withoutText);
+    event.setAccepted(withoutText.isAccepted());
 }
 
 void InputLine::inputMethodEvent(QInputMethodEvent* event) {
@@ -91,9 +98,10 @@ void InputLine::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void InputLine::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
+    QFocusEvent withoutReason(event->type());  // because Qt would select the whole text when Tab leads here
+    QLineEdit::focusInEvent(&withoutReason);
     StartBlinking();
-    entrance.Enter([this] { GiveFocus(entrance.Model, box); });
+    events.Enter([this] { GiveFocus(events.Model, &box); });
 }
 
 void InputLine::focusOutEvent(QFocusEvent* event) {

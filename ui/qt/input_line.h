@@ -5,13 +5,13 @@
 #include <QLineEdit>
 #include <optional>
 
-#include "ui/qt/entrance.h"
+#include "ui/qt/event_sink.h"
 
 namespace ui::qt {
 
 class InputLine final : public QLineEdit {
 public:
-    InputLine(const Entrance& door, TextBox& mirrored, QWidget* parent);
+    InputLine(const EventSink& sink, TextBox& mirrored, QWidget* parent);
 
     void Mirror();
 
@@ -29,10 +29,11 @@ protected:
 
 private:
     bool Announce(char32_t character);  // true: swallowed
+    void PassShortcut(QKeyEvent& event);
     void Report();
     void StartBlinking();
 
-    const Entrance& entrance;
+    const EventSink& events;
     TextBox& box;
     std::optional<std::uint64_t> mirroredChanges;
     QBasicTimer blinking;

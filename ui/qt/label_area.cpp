@@ -1,17 +1,20 @@
 #include "ui/qt/label_area.h"
 
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "ui/input.h"
+#include "ui/qt/keys.h"
 #include "ui/qt/look.h"
 
 namespace ui::qt {
 
-LabelArea::LabelArea(const Entrance& door, Label& mirrored, QWidget* parent) : QWidget(parent), entrance(door), label(mirrored) {
+LabelArea::LabelArea(const EventSink& sink, Label& mirrored, QWidget* parent) : QWidget(parent), events(sink), label(mirrored) {
     setGeometry(Pixels(label.Layout.Bounds));
     setFont(ToQt(label.Layout.Font));
+    if (label.Click) setFocusPolicy(Qt::TabFocus);
 }
 
 void LabelArea::Mirror() {
@@ -23,7 +26,7 @@ void LabelArea::Mirror() {
 }
 
 void LabelArea::Click() {
-    entrance.Enter([this] { ClickLabel(label); });
+    events.Enter([this] { ClickLabel(label); });
 }
 
 void LabelArea::paintEvent(QPaintEvent*) {
@@ -31,6 +34,15 @@ void LabelArea::paintEvent(QPaintEvent*) {
     if (label.Layout.Background) painter.fillRect(rect(), ToQt(*label.Layout.Background));
     painter.setPen(ToQt(label.TextColour()));
     painter.drawText(rect(), Qt::AlignCenter, ToQt(label.Caption()));
+    if (!hasFocus()) return;
+    painter.setPen(QPen(ToQt(Cyan), 1, Qt::DotLine));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void LabelArea::keyPressEvent(QKeyEvent* event) {
+    const char32_t character = CharacterOf(*event);
+    if (character == U' ' || character == key::Enter) return Click();
+    event->ignore();
 }
 
 void LabelArea::mousePressEvent(QMouseEvent* event) {

@@ -27,7 +27,7 @@ QFont ToQt(const Font& font);
 QPalette PaletteOf(const ControlLayout& layout);
 
 QString ToQt(std::string_view utf8);
-// Composes letters that come as a letter and its accents; Windows-1250 has only whole ones.
+// Composes what arrives as a letter and its accents, because Windows-1250 has only composed letters.
 std::string FromQt(const QString& text);
 
 }  // namespace ui::qt

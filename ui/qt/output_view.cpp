@@ -19,7 +19,7 @@ constexpr int TextMargin = 3;
 
 }  // namespace
 
-OutputView::OutputView(const Entrance& door, TextBox& mirrored, QWidget* parent) : QPlainTextEdit(parent), entrance(door), box(mirrored) {
+OutputView::OutputView(const EventSink& sink, TextBox& mirrored, QWidget* parent) : QPlainTextEdit(parent), events(sink), box(mirrored) {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setAcceptDrops(false);
@@ -37,7 +37,7 @@ OutputView::OutputView(const Entrance& door, TextBox& mirrored, QWidget* parent)
     document()->setDocumentMargin(0);
     setViewportMargins(TextMargin, 0, 0, 0);
     setGeometry(Pixels(box.Layout.Bounds));
-    // Qt would tell a hidden box of its width only when it is shown, but its lines are counted before.
+    // Qt would tell a hidden box of its width only when it is shown, but lines are counted while it is hidden.
     for (QWidget* widget : {static_cast<QWidget*>(this), viewport()}) {
         QResizeEvent resized(widget->size(), {});
         QCoreApplication::sendEvent(widget, &resized);
@@ -78,7 +78,7 @@ std::size_t OutputView::CountLines() {
     CopyText();
     std::size_t lines = countedLines;
     for (QTextBlock block = document()->findBlockByNumber(countedBlocks); block.isValid(); block = block.next()) {
-        document()->documentLayout()->blockBoundingRect(block);  // breaks it into lines unless that was done before
+        document()->documentLayout()->blockBoundingRect(block);  // breaks the paragraph into lines unless that was done before
         lines += static_cast<std::size_t>(std::max(1, block.layout()->lineCount()));
         if (block.next().isValid()) {
             ++countedBlocks;
@@ -89,7 +89,7 @@ std::size_t OutputView::CountLines() {
 }
 
 void OutputView::mousePressEvent(QMouseEvent* event) {
-    entrance.Enter([this] { GiveFocus(entrance.Model, box); });
+    events.Enter([this] { GiveFocus(events.Model, &box); });
     QPlainTextEdit::mousePressEvent(event);
 }
 
@@ -99,7 +99,7 @@ void OutputView::contextMenuEvent(QContextMenuEvent* event) {
 
 void OutputView::focusInEvent(QFocusEvent* event) {
     QPlainTextEdit::focusInEvent(event);
-    entrance.Enter([this] { GiveFocus(entrance.Model, box); });
+    events.Enter([this] { GiveFocus(events.Model, &box); });
 }
 
 void OutputView::showEvent(QShowEvent* event) {

@@ -1,16 +1,16 @@
-// A box of many lines that is only read. New text is set at its end, what stands before it is not laid out again.
+// A box of many lines that is only read. New text is appended without laying out again what stands before it.
 #pragma once
 
 #include <QPlainTextEdit>
 #include <optional>
 
-#include "ui/qt/entrance.h"
+#include "ui/qt/event_sink.h"
 
 namespace ui::qt {
 
 class OutputView final : public QPlainTextEdit {
 public:
-    OutputView(const Entrance& door, TextBox& mirrored, QWidget* parent);
+    OutputView(const EventSink& sink, TextBox& mirrored, QWidget* parent);
 
     void Mirror();
 
@@ -27,7 +27,7 @@ private:
     void CopyText();
     void FollowCaret();
 
-    const Entrance& entrance;
+    const EventSink& events;
     TextBox& box;
     std::optional<std::uint64_t> mirroredChanges;
     std::uint64_t mirroredReplacements = 0;

@@ -9,12 +9,12 @@ namespace ui::qt {
 namespace {
 
 QRgb Mean(QRgb a, QRgb b, QRgb c, QRgb d) {
-    constexpr QRgb High = 0xFCFCFCFC, Low = 0x03030303;  // each channel's upper bits, and what they leave
+    constexpr QRgb High = 0xFCFCFCFC, Low = 0x03030303;  // of each channel the upper six bits and the lower two
     const QRgb quarters = ((a & High) >> 2) + ((b & High) >> 2) + ((c & High) >> 2) + ((d & High) >> 2);
     return quarters + (((a & Low) + (b & Low) + (c & Low) + (d & Low)) >> 2 & Low);
 }
 
-// Qt would unfold the palette first, and to touch all that memory is what takes longest.
+// Not by Qt, which would first turn the palette's indexes into colours: touching that much memory is what takes longest.
 QImage HalfSize(const QImage& image) {
     const QList<QRgb> colours = image.colorTable();
     QImage half(image.size() / 2, QImage::Format_RGB32);

@@ -1,4 +1,4 @@
-// The background picture of a window, decoded beside the work of opening the window.
+// The background picture of a window, decoded in another thread while the window opens.
 #pragma once
 
 #include <QImage>

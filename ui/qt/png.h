@@ -1,5 +1,4 @@
-// Reads a PNG file. Qt could too, but would first look through all the image formats that are installed, which takes longer than to read
-// it.
+// Reads a PNG file. Not by Qt, because Qt would first look through all installed image formats, which takes longer than the reading.
 #pragma once
 
 #include <QImage>

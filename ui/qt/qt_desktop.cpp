@@ -2,8 +2,6 @@
 
 #include <QGuiApplication>
 #include <algorithm>
-#include <exception>
-#include <utility>
 
 #include "ui/errors.h"
 #include "ui/input.h"
@@ -13,7 +11,7 @@ namespace ui::qt {
 
 namespace {
 
-// Elsewhere, as on Wayland, nothing could be kept behind the other windows: a backdrop would cover the game.
+// Not on Wayland, where no window can be kept behind the others: a backdrop would cover the game.
 bool CanStackWindows() {
     return !QGuiApplication::platformName().startsWith("wayland");
 }
@@ -21,34 +19,24 @@ bool CanStackWindows() {
 }  // namespace
 
 QtDesktop::~QtDesktop() {
-    ended = true;  // the widgets' last events find nobody
+    entry.Run(EndProcess);  // because the widgets still send events while they are destroyed
 }
 
 void QtDesktop::Enter(const std::function<void()>& event) {
     if (openBox == nullptr) return Handle(event);
-    if (ended) return;
-    // The player turned to a window behind the message.
+    if (entry.Ended()) return;
+    // The event came from a window behind the message box.
     openBox->raise();
     openBox->activateWindow();
 }
 
 void QtDesktop::Handle(const std::function<void()>& event) {
-    if (ended || mirroring) return;
-    std::string complaint;
-    try {
-        event();
-    } catch (const ProgramEnded&) {
-        ended = true;
-        if (!loops.empty()) loops.back()->quit();
-        return;
-    } catch (const GameError& error) {
-        complaint = error.what();
-    } catch (const std::exception& error) {
-        complaint = std::string("Neočekávaná chyba programu: ").append(error.what());
-    }
-    if (!complaint.empty()) return Handle([&] { ShowMessageBox(complaint, "Chyba"); });
-    Mirror();
-    if (modal != nullptr && !modal->Visible) loops.back()->quit();
+    if (mirroring) return;
+    const Outcome outcome = entry.Run(event);
+    if (!outcome.Complaint.empty()) return Handle([&] { ShowMessageBox(outcome.Complaint, ErrorTitle); });
+    if (!outcome.Ended) Mirror();
+    const bool leavesLoop = outcome.Ended || (entry.Modal() != nullptr && !entry.Modal()->Visible);
+    if (leavesLoop && !loops.empty()) loops.back()->quit();
 }
 
 void QtDesktop::Run() {
@@ -57,7 +45,7 @@ void QtDesktop::Run() {
 }
 
 void QtDesktop::RunLoop() {
-    if (ended) return;
+    if (entry.Ended()) return;
     QEventLoop loop;
     loops.push_back(&loop);
     loop.exec();
@@ -65,14 +53,10 @@ void QtDesktop::RunLoop() {
 }
 
 void QtDesktop::ShowModal(Form& form) {
-    Form* const behind = windows.Active;
-    Show(windows, form);  // before it is modal: should it throw, nothing shuts the other windows
-    Form* const outer = std::exchange(modal, &form);
-    Mirror();
-    if (form.Visible) RunLoop();
-    modal = outer;
-    if (ended) EndProcess();
-    if (behind != nullptr) GiveFocus(windows, *behind);
+    entry.ShowModal(form, [&] {
+        Mirror();
+        if (form.Visible) RunLoop();
+    });
 }
 
 void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
@@ -82,12 +66,12 @@ void QtDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
     QObject::connect(&message, &QDialog::finished, [this] { loops.back()->quit(); });
     openBox = &message;
     Mirror();
-    message.setEnabled(true);  // which its owner is not
-    message.setModal(false);   // for Qt, which would let no close box work behind it
+    message.setEnabled(true);  // because it would be disabled like its owner
+    message.setModal(false);   // because Qt would let no close box work behind a modal one
     message.show();
     RunLoop();
     openBox = nullptr;
-    if (ended) EndProcess();
+    if (entry.Ended()) EndProcess();
 }
 
 std::size_t QtDesktop::CountLines(const TextBox& box) const {
@@ -109,20 +93,19 @@ bool QtDesktop::HasFontFamily(std::string_view name) const {
 FormWidget& QtDesktop::WidgetOf(const Form& form) const {
     const auto place = std::ranges::find(windows.All, &form) - windows.All.begin();
     auto& widget = forms.at(static_cast<std::size_t>(place));
-    if (!widget) widget = std::make_unique<FormWidget>(entrance, *windows.All.at(static_cast<std::size_t>(place)));
+    if (!widget) widget = std::make_unique<FormWidget>(sink, *windows.All.at(static_cast<std::size_t>(place)));
     return *widget;
 }
 
 void QtDesktop::Mirror() {
     mirroring = true;
-    // The main window, for which the player waits, comes first; the backdrop slips in behind it.
+    // The main window comes first because the player waits for it; the backdrop is then put behind it.
     for (std::size_t place = 0; place < forms.size(); ++place) {
         const Form& form = *windows.All[place];
         if (!forms[place] && !form.Visible) continue;
         if (form.Layout.Backdrop && !CanStackWindows()) continue;
         const bool panel = !form.Layout.Framed && !form.Layout.Backdrop;
-        WidgetOf(form).Mirror(openBox == nullptr && (modal == nullptr || modal == &form),
-                              panel ? &WidgetOf(windows.Form1.Window) : nullptr);
+        WidgetOf(form).Mirror(openBox == nullptr && !entry.IsShut(form), panel ? &WidgetOf(windows.Form1.Window) : nullptr);
     }
     MirrorPointer();
     if (windows.Active != nullptr && windows.Active->Visible) WidgetOf(*windows.Active).MirrorFocus();

@@ -3,13 +3,12 @@
 
 #include <QEventLoop>
 #include <QMessageBox>
-#include <array>
 #include <memory>
 #include <vector>
 
 #include "ui/desktop.h"
+#include "ui/event_entry.h"
 #include "ui/qt/form_widget.h"
-#include "ui/windows.h"
 
 namespace ui::qt {
 
@@ -17,7 +16,9 @@ class QtDesktop final : public Desktop {
 public:
     explicit QtDesktop(Windows& mirrored)
         : windows(mirrored),
-          entrance{mirrored, [this](const auto& event) { Enter(event); }, [this](const auto& event) { Handle(event); }} {}
+          entry(mirrored),
+          sink{mirrored, [this](const auto& event) { Enter(event); }, [this](const auto& event) { Handle(event); }},
+          forms(mirrored.All.size()) {}
     ~QtDesktop() override;
 
     // Shows the windows and plays until the program ends.
@@ -28,11 +29,12 @@ public:
     void ShowModal(Form& form) override;
     std::size_t CountLines(const TextBox& box) const override;
 
-    // The entrance of every event of Qt. Once the program has ended there are no events any more, and a message box shuts it.
+    // Runs an event of the player and copies what it changed to the widgets. Does nothing once the program has ended; while a message box
+    // is open, the player is shown that box instead.
     void Enter(const std::function<void()>& event);
 
     FormWidget& WidgetOf(const Form& form) const;
-    bool Ended() const { return ended; }
+    bool Ended() const { return entry.Ended(); }
 
 private:
     void Handle(const std::function<void()>& event);
@@ -41,13 +43,12 @@ private:
     void RunLoop();
 
     Windows& windows;
-    Entrance entrance;
-    mutable std::array<std::unique_ptr<FormWidget>, 5> forms;  // each made when it is first needed
-    Form* modal = nullptr;
-    QMessageBox* openBox = nullptr;  // the one that waits for the player
+    EventEntry entry;
+    EventSink sink;
+    mutable std::vector<std::unique_ptr<FormWidget>> forms;  // each made when it is first needed
+    QMessageBox* openBox = nullptr;
     std::vector<QEventLoop*> loops;  // the innermost last
     bool mirroring = false;
-    bool ended = false;
 };
 
 }  // namespace ui::qt

@@ -1,4 +1,4 @@
-// The one door through which Qt's events come to the game, as the widgets see it.
+// Where the widgets hand over the player's events.
 #pragma once
 
 #include <functional>
@@ -7,9 +7,9 @@
 
 namespace ui::qt {
 
-struct Entrance {
+struct EventSink {
     Windows& Model;
-    // Runs the event, catches what ends or interrupts it, and copies to the screen whatever it changed. Never throws.
+    // Runs the event, tells what went wrong in it, and copies to the screen whatever it changed. Never throws.
     std::function<void(const std::function<void()>& event)> Enter;
     // The same for a close box, which works behind a message box as well.
     std::function<void(const std::function<void()>& event)> Close;
