@@ -1,29 +1,48 @@
 // The game in a browser.
+#include "app/resume.h"
 #include "app/start_up.h"
 #include "saves/save_files.h"
 #include "saves/save_format.h"
 #include "saves/save_inspection.h"
+#include "saves/snapshot.h"
 #include "saves/system_panel.h"
 #include "ui/errors.h"
-#include "ui/web/page.h"
+#include "ui/web/page_bridge.h"
 #include "ui/web/web_desktop.h"
 
-// The page may ask these at any time, also while the program sleeps; so they must not wait.
+namespace {
+
+// Where the page puts the snapshot of a game that was interrupted.
+Bytes InterruptedGame() {
+    return ReadWholeFile("/interrupted", "Rozehranou hru se nepodařilo přečíst.");
+}
+
+}  // namespace
+
+// The page may call these at any time, also while `main` waits for an event, so they must not wait themselves.
 extern "C" {
 
-// Judges the file that the page has put there.
+// Judges the file that the page has written to /incoming.
 void InspectIncoming() {
     Inspection inspection{.Found = Inspection::Finding::Damaged, .Name = ""};
     try {
         inspection = InspectSave(ReadWholeFile("/incoming", "", MostSaveBytes + 1));
     } catch (const ui::GameError&) {
-        // What cannot be read is as good as damaged.
+        // A file that cannot be read counts as damaged.
     }
     ui::web::page::AnswerInspection(static_cast<int>(inspection.Found), inspection.Name);
 }
 
 bool WouldLoseSteps(const Game* game) {
     return HasUnsavedSteps(*game);
+}
+
+void SnapshotGame(const Game* game) {
+    ui::web::page::AnswerSnapshot(TakeSnapshot(*game).value_or(Bytes()));
+}
+
+bool CanResume(const Game* game) {
+    return IsSnapshot(*game, InterruptedGame());
 }
 }
 
@@ -32,11 +51,14 @@ int main() {
     ui::web::WebDesktop desktop(windows);
     Game game(windows, desktop, ui::web::page::Random);
     desktop.FilesChanged = [&game] { RenewSystemPanel(game); };
+    desktop.Resumed = [&game, &desktop] {
+        ResumeGame(game, InterruptedGame(), [&desktop](std::function<void()> event) { desktop.RunNext(std::move(event)); });
+    };
     try {
         Main(game, "/orvel-tavoren");  // where the page puts the story
     } catch (const ui::GameError& error) {
         windows.BusyPointer = false;
-        desktop.ShowMessageBox(error.what(), "Chyba");
+        desktop.ShowMessageBox(error.what(), ui::ErrorTitle);
         ui::web::page::SayTheStoryIsDamaged();
         return 1;
     }

@@ -1,6 +1,6 @@
 # What emscripten compiles: programs for node, and the game as a page.
 
-# Node's own files, read and written at once, as a program sees them.
+# Makes the target a program that runs in node and works on the machine's files, as a native program does.
 function(orvel_node_program target)
     target_link_options(${target} PRIVATE
         -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH -sWASM_ASYNC_COMPILATION=0
@@ -10,9 +10,9 @@ endfunction()
 
 orvel_node_program(pack_texts)
 orvel_node_program(replay)
-# The report throws nothing. Where it could, each of its calls would be a journey into JavaScript and back.
+# Compiled without exceptions, because the report throws none, and with them each call that might throw one takes a detour through JavaScript.
 set_source_files_properties(app/replay_report.cpp PROPERTIES COMPILE_OPTIONS -fno-exceptions)
-# Started as the native player is.
+# A shell script starts the compiled player in node, so that tests start it as they start the native one.
 set(headless_player ${PROJECT_BINARY_DIR}/replay)
 file(CONFIGURE OUTPUT ${headless_player} NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
 exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "$(dirname "$0")/replay.js" "$@"

@@ -12,6 +12,7 @@ import { tmpdir } from "node:os";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
 import { gzipSync } from "node:zlib";
+import { programOrSkip } from "../../tests/web/programs.mjs";
 
 const Root = fileURLToPath(new URL("../../", import.meta.url));
 const puppeteer = createRequire(`${Root}tests/web/`)("puppeteer-core").default;
@@ -239,7 +240,8 @@ function reportSizes(fetched) {
 }
 
 const profile = await mkdtemp(path.join(tmpdir(), "orvel-bench-"));
-const browser = await puppeteer.launch({ executablePath: "/usr/bin/chromium", userDataDir: profile, args: Flags, ignoreDefaultArgs: ["--hide-scrollbars"] });
+const browser = await puppeteer.launch({ executablePath: programOrSkip("chromium"), userDataDir: profile, args: Flags,
+    ignoreDefaultArgs: ["--hide-scrollbars"] });
 const [game, bare] = await Promise.all([serve(Site), serve(Bare)]);
 try {
     const { page, context } = await openCold(browser, game.address, true);

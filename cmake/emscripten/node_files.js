@@ -1,4 +1,4 @@
-// What emscripten's files over node leave out: fsync is no promise there, and a saved game is one.
+// In emscripten's file system over node, fsync does nothing. A saved game must be on the disk when the program says so, hence this fsync.
 mergeInto(LibraryManager.library, {
   fd_sync__deps: ['$SYSCALLS', '$ERRNO_CODES'],
   fd_sync: function (fd) {

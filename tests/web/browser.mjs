@@ -5,6 +5,7 @@ import http from "node:http";
 import { tmpdir } from "node:os";
 import path from "node:path";
 import puppeteer from "puppeteer-core";
+import { programOrSkip } from "./programs.mjs";
 
 const Folder = "/hry/orvel/";
 const Types = { ".html": "text/html", ".js": "text/javascript", ".wasm": "application/wasm", ".png": "image/png" };
@@ -36,7 +37,7 @@ async function launch(kind, profile, downloads, keepsNothing) {
     if (kind === "firefox") {
         return puppeteer.launch({
             browser: "firefox",
-            executablePath: "/usr/bin/firefox-esr",
+            executablePath: programOrSkip(kind),
             userDataDir: profile,
             extraPrefsFirefox: {
                 "browser.download.folderList": 2,
@@ -51,7 +52,7 @@ async function launch(kind, profile, downloads, keepsNothing) {
         await writeFile(path.join(profile, "Default", "Preferences"), JSON.stringify(refusal));
     }
     return puppeteer.launch({
-        executablePath: "/usr/bin/chromium",
+        executablePath: programOrSkip(kind),
         userDataDir: profile,
         args: process.getuid() === 0 ? [...Quiet, "--no-sandbox"] : Quiet,  // its sandbox refuses the administrator
         ignoreDefaultArgs: ["--hide-scrollbars"],
@@ -66,6 +67,25 @@ export async function findBarriers(tab) {
     return violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map(({ target }) => target).join(" ")}`);
 }
 
+// What in the page a finger would miss, an eye would strain at, or an edge cuts off, in sentences.
+export function findSmall(tab) {
+    return tab.evaluate(() => {
+        const found = [];
+        const least = matchMedia("(pointer: coarse)").matches ? 44 : 0;  // a mouse hits what is small
+        const say = (element, what) => found.push(`${element.closest("[id]")?.id} "${element.textContent.slice(0, 20)}" ${what}`);
+        if (document.scrollingElement.scrollWidth > innerWidth) say(document.scrollingElement, "scrolls sideways");
+        for (const element of document.querySelectorAll("button, input, p, [role=option], output")) {
+            if (!element.checkVisibility({ visibilityProperty: true }) || element.closest("[inert]")) continue;
+            const { left, right, height } = element.getBoundingClientRect();
+            if (left < -1 || right > innerWidth + 1) say(element, `lies from ${left} to ${right}`);
+            const size = parseFloat(getComputedStyle(element).fontSize);
+            if ((element.textContent || element.matches("input")) && size < 16) say(element, `has letters of ${size}`);
+            if (element.matches("button, [role=option]") && height < least - 0.5) say(element, `is ${height} high`);
+        }
+        return found;
+    });
+}
+
 // A browser that has nothing of an earlier one.
 export class Browser {
     complaints = [];
@@ -78,7 +98,7 @@ export class Browser {
         started.#profile = await mkdtemp(path.join(tmpdir(), "orvel-page-"));
         started.downloads = path.join(started.#profile, "downloads");
         await mkdir(started.downloads);
-        started.#browser = await launch(process.env.ORVEL_BROWSER, started.#profile, started.downloads, keepsNothing);
+        started.#browser = await launch(process.env.ORVEL_BROWSER ?? "chromium", started.#profile, started.downloads, keepsNothing);
         return started;
     }
 

@@ -1,4 +1,4 @@
-// The page under a player's hands: keyboard alone, a finger on a phone, and what it offers to those who do not see it.
+// The page by keyboard alone, and what it offers to those who do not see it.
 //     page_test.mjs SITE
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
@@ -92,13 +92,30 @@ test("by keyboard alone, from the title into the terminal and out", patience, as
 test("Enter is heard that was pressed on the title before the game had come", patience, async (scene) => {
     let send;
     const sent = new Promise((resolve) => { send = resolve; });
-    const slow = await serve(process.argv[2], (name, bytes) => name === "start.js" ? sent.then(() => bytes) : bytes);
+    const slow = await serve(process.argv[2], (name, bytes) => name === "game.js" ? sent.then(() => bytes) : bytes);
     scene.after(() => slow.stop());
     const tab = await browser.open(slow.address, { shows: "#title" });
     await tab.keyboard.press("Enter");
     send();
     await tab.waitForSelector("#Form1:not([hidden])");
     await tab.waitForFunction(() => document.getElementById("Form1.Text1").textContent !== "");
+    await tab.close();
+});
+
+test("the title's picture stands in for the main window's until that has come, and in nobody's way", patience, async (scene) => {
+    let send;
+    const sent = new Promise((resolve) => { send = resolve; });
+    const slow = await serve(process.argv[2], (name, bytes) => name === "gui1.webp" ? sent.then(() => bytes) : bytes);
+    scene.after(() => slow.stop());
+    const tab = await browser.open(slow.address);
+    const isBehind = () => tab.$eval("#title", (title) => title.classList.contains("behind"));
+    assert.equal(await isBehind(), false);
+    await tab.keyboard.press("Enter");
+    assert.equal(await isBehind(), true);
+    assert.match((await told(new Player(tab))).at(-1), /Proceed/);
+    send();
+    await tab.waitForFunction(() => !document.getElementById("title"));
+    assert.match(await tab.$eval("#Form1", (form) => getComputedStyle(form).backgroundImage), /^url/);
     await tab.close();
 });
 
@@ -117,43 +134,6 @@ test("what an input method composes is taken once", patience, async () => {
     assert.equal((await player.look()).modal, null);
     await tab.close();
 });
-
-for (const [held, width, height] of [["upright", 390, 844], ["sideways", 844, 390]]) {
-    test(`by finger on a phone held ${held}`, patience, async () => {
-        const tab = await browser.open(server.address, { width, height, touch: true });
-        const player = new Player(tab);
-        for (let page = 0; page < 2; ++page) await player.click("Form1.Label1");
-        await player.click("Form1.List2(0)", "Prozkoumej");
-        await player.click("Form1.List2(1)", "skříň");
-        assert.equal((await shown(player, "Form1", "Text2")).text, "Prozkoumej skříň");
-        const small = await tab.evaluate(findSmall);
-        await player.click("Form1.Label1");
-        assert.match((await told(player)).at(-1), /skříň/i);
-        await player.click("Form1.List2(0)", "Ulož pozici");
-        await player.click("Form1.Label1");
-        assert.equal((await player.look()).modal, "Form4");
-        const smallInPanel = await tab.evaluate(findSmall);
-        // Held sideways it is the desktop's layout, in small.
-        if (held === "upright") assert.deepEqual([...small, ...smallInPanel], []);
-        await tab.close();
-    });
-}
-
-// Runs in the page: what a finger would miss, an eye would strain at, or an edge cuts off.
-function findSmall() {
-    const found = [];
-    const say = (element, what) => found.push(`${element.closest("[id]")?.id} "${element.textContent.slice(0, 20)}" ${what}`);
-    if (document.scrollingElement.scrollWidth > innerWidth) say(document.scrollingElement, "scrolls sideways");
-    for (const element of document.querySelectorAll("button, input, p, [role=option], output")) {
-        if (!element.checkVisibility({ visibilityProperty: true }) || element.closest("[inert]")) continue;
-        const { left, right, height } = element.getBoundingClientRect();
-        if (left < -1 || right > innerWidth + 1) say(element, `lies from ${left} to ${right}`);
-        const size = parseFloat(getComputedStyle(element).fontSize);
-        if ((element.textContent || element.matches("input")) && size < 16) say(element, `has letters of ${size}`);
-        if (element.matches("button, [role=option]") && height < 43.5) say(element, `is ${height} high`);
-    }
-    return found;
-}
 
 test("axe finds nothing in the windows of a game", patience, async () => {
     const tab = await browser.open(server.address);

@@ -57,7 +57,12 @@ export class Player {
 
     // The number from 0 does for an entry's name.
     async click(id, entry = "") {
-        const target = await this.#tab.evaluate(findTarget, id, entry);
+        let target = await this.#tab.evaluate(findTarget, id, entry);
+        // What has just come in the place of something else takes no taps at once.
+        for (let tries = 0; target === "something else lies there" && tries < 10; ++tries) {
+            await new Promise((later) => { setTimeout(later, 50); });
+            target = await this.#tab.evaluate(findTarget, id, entry);
+        }
         if (typeof target === "string") throw new Error(`${id} ${entry}: ${target}`);
         if (this.#hasTouch) await this.#tab.touchscreen.tap(target.x, target.y);
         else await this.#tab.mouse.click(target.x, target.y);

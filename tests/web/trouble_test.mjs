@@ -19,9 +19,9 @@ const told = (tab) => tab.evaluate(() => document.body.innerText);
 for (const [name, spoil, sentence] of [
     ["engine.wasm", half, /Soubor engine\.wasm dorazil poškozený/],
     ["engine.wasm", nothing, /chybí soubor engine\.wasm/],
-    ["engine.js", nothing, /chybí soubor engine\.js/],
+    ["game.js", nothing, /chybí soubor game\.js/],
+    ["game.js", half, /Soubor game\.js dorazil poškozený/],
     ["texs.dat", half, /Soubor texs\.dat dorazil poškozený/],
-    ["page_menu.js", nothing, /Hra se nenačetla celá/],
 ]) {
     test(`${name}, ${spoil === half ? "damaged" : "missing"} on the server, is named, until it is mended`, patience, async (scene) => {
         let mended = false;

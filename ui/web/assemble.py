@@ -2,12 +2,12 @@
 """Makes of the page's parts what players get: a site for a web server, or one file with everything in it.
 
     assemble.py site SITE FOLDER NAME...
-    assemble.py file FILE FILES_MODULE FOLDER NAME...
+    assemble.py file FILE FOLDER NAME...
 
-The parts are those of the names in the folder.
+The parts are the files of those names in the folder.
 
-The site has in its root what browsers ask for by a name that stays, and all other parts in a folder named after what is in them, so that
-no page ever meets files of two versions.
+The site has in its root what browsers ask for by a name that stays, and all other parts in a folder named after what is in them. So no page
+ever gets files of two versions.
 """
 import base64
 import gzip
@@ -18,10 +18,11 @@ import re
 import shutil
 import sys
 
-IN_THE_PAGE = ("style.css", "watch.js")
+NOT_IN_THE_SITE = ("style.css", "loader.js", "one_file.js")  # the first two stand in the page itself
 STAYS = re.compile(r"index\.html|worker\.js|manifest\.webmanifest|icon-.*\.png")
 # Fetched when a player installs the page; it starts without them.
 NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")  # the browser looks at the smaller icon on every visit
+NEEDED_AT_THE_START = ("engine.wasm", "texs.dat")
 FORMATS = {".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2"}
 
 
@@ -40,49 +41,28 @@ def sha256(data):
 
 
 def with_style(page, style):
-    """The style stands in the page: one journey less before anything can be painted."""
+    """The style stands in the page, because the browser paints nothing before it has come."""
     page = replace_once(page, "style-src 'self'", f"style-src '{sha256(style.encode())}'")
     return replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
 
 
-def with_watch(page, script, game):
-    """The first script stands in the page too; `game` says where it finds the others, if they do not."""
+def with_loader(page, script, data):
+    """The loader stands in the page too, because all else waits for it; `data` are the attributes that say what it fetches."""
     page = replace_once(page, "script-src ", f"script-src '{sha256(script.encode())}' ")
-    return replace_once(page, '<script src="watch.js" data-game="start.mjs"></script>', f"<script{game}>{script}</script>")
+    return replace_once(page, '<script src="loader.js"></script>', f"<script{data}>{script}</script>")
 
 
 def style_of(parts, address):
-    return re.sub(r'url\("(.*?)"\)', lambda found: f'url("{address(found[1])}")', parts["style.css"].decode())
+    return re.sub(r'url\("?([^")]*)"?\)', lambda found: f'url("{address(found[1])}")', parts["style.css"].decode())
 
 
 # The site
 
-def served_name(name):
-    """Some servers know no type for .mjs, and browsers take no module without its type."""
-    return re.sub(r"\.mjs$", ".js", name)
-
-
-def served_content(name, data):
-    return re.sub(rb'("\./[a-z_]+)\.mjs"', rb'\1.js"', data) if name.endswith(".mjs") else data
-
-
-def static_imports(modules, name, found):
-    """The modules that start with this one, in the order in which they run."""
-    for imported in re.findall(r'^import .* from "\./(.*)";', modules[name], re.M):
-        if imported not in found:
-            static_imports(modules, imported, found)
-    found.append(name)
-    return found
-
-
-def texts_of(parts, suffix):
-    return {name: data.decode() for name, data in parts.items() if name.endswith(suffix)}
-
-
 def with_addresses(page, parts, version):
     """The page with the addresses of a version."""
     page = with_style(page, style_of(parts, lambda name: f"{version}/{name}"))
-    page = with_watch(page, parts["watch.js"].decode(), f' data-game="{version}/{served_name("start.mjs")}"')
+    needs = " ".join(f"{version}/{name}" for name in NEEDED_AT_THE_START)
+    page = with_loader(page, parts["loader.js"].decode(), f' data-game="{version}/game.js" data-needs="{needs}"')
     return replace_once(page, '"pics/title.webp"', f'"{version}/pics/title.webp"')
 
 
@@ -90,8 +70,8 @@ def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
     everything += pathlib.Path(__file__).read_bytes()  # another way to put them together is another version
     version = hashlib.sha256(everything).hexdigest()[:12]
-    served = {name: data for name, data in parts.items() if name not in IN_THE_PAGE}
-    files = {name if STAYS.fullmatch(name) else f"{version}/{served_name(name)}": served_content(name, data) for name, data in served.items()}
+    served = {name: data for name, data in parts.items() if name not in NOT_IN_THE_SITE}
+    files = {name if STAYS.fullmatch(name) else f"{version}/{name}": data for name, data in served.items()}
     files["index.html"] = with_addresses(parts["index.html"].decode(), parts, version).encode()
     kept = {"./" if name == "index.html" else name: sha256(data) for name, data in files.items() if not NOT_KEPT.fullmatch(name)}
     constants = f"const Version = {json.dumps(version)};\nconst Files = {json.dumps(kept, indent=0)};\n"
@@ -104,31 +84,6 @@ def make_site(parts, site):
 
 # The one file
 
-def as_function(module):
-    """The module as a function of its own, which returns what the module exports."""
-    exported = re.findall(r"^export (?:async function|function|class|const) (\w+)", module, re.M)
-    module = re.sub(r'^import (\{.*\}) from "\./(.*)";$',
-                    lambda found: f'const {found[1].replace(" as ", ": ")} = modules["{found[2]}"];', module, flags=re.M)
-    module = re.sub(r"^export (?=async function|function|class|const)", "", module, flags=re.M)
-    module, default = re.subn(r"^export default (\w+);\s*\Z", r"return { default: \1 };", module, flags=re.M)
-    if re.search(r"^\s*(import|export)\b(?!\()", module, re.M):
-        raise SystemExit("An import or export in a form that cannot go into one file:\n" + module[:200])
-    return module if default else f"{module}return {{ {', '.join(exported)} }};\n"
-
-
-def one_script(modules):
-    """All modules in one: those that are imported stand before those that import them."""
-    early = static_imports(modules, "start.mjs", [])
-    parts = ["const modules = {};\n"]
-    for name in [*(name for name in modules if name not in early), *early]:
-        body = re.sub(r'\bimport\("\./(.*?)"\)', r'Promise.resolve(modules["\1"])', as_function(modules[name]))
-        parts.append(f'modules["{name}"] = (() => {{\n{body}}})();\n')
-    script = "".join(parts)
-    if re.search(r"</script|<!--", script, re.I):
-        raise SystemExit("A script that would end its own element")
-    return script
-
-
 def data_address(name, data):
     return f"data:{FORMATS[pathlib.Path(name).suffix]};base64,{base64.b64encode(data).decode()}"
 
@@ -139,15 +94,16 @@ def data_element(name, data):
     return f'<script type="text/plain" id="file:{name}">{base64.b64encode(content).decode()}</script>'
 
 
-def make_file(parts, files_module, result):
-    modules = texts_of(parts, ".mjs") | {"files.mjs": files_module.read_text()}
+def make_file(parts, result):
     style = style_of(parts, lambda name: data_address(name, parts[name]))
-    script = one_script(modules)
+    script = parts["one_file.js"].decode()
+    if re.search(r"</script|<!--", script, re.I):
+        raise SystemExit("A script that would end its own element")
     policy = (f"default-src 'none'; script-src '{sha256(script.encode())}' 'wasm-unsafe-eval'; "
               f"style-src 'self'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
     page = parts["index.html"].decode()
     page = with_style(re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1), style)
-    page = with_watch(page, parts["watch.js"].decode(), "")
+    page = with_loader(page, parts["loader.js"].decode(), "")
     page = re.sub(r'<link rel="(manifest|apple-touch-icon)".*\n', "", page)
     page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
     page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)',
@@ -159,13 +115,9 @@ def make_file(parts, files_module, result):
     result.write_text(page)
 
 
-def main(what, result, *arguments):
-    if what == "site":
-        folder, *names = arguments
-        make_site(read_parts(pathlib.Path(folder), names), pathlib.Path(result))
-    else:
-        files_module, folder, *names = arguments
-        make_file(read_parts(pathlib.Path(folder), names), pathlib.Path(files_module), pathlib.Path(result))
+def main(what, result, folder, *names):
+    make = {"site": make_site, "file": make_file}[what]
+    make(read_parts(pathlib.Path(folder), names), pathlib.Path(result))
 
 
 if __name__ == "__main__":

@@ -55,6 +55,13 @@ bool TakesClicks(const Control& control) {
     return label != nullptr && (*label)->Click;
 }
 
+std::string DescribeTouchKey(const TouchKey& touch) {
+    return Object({{"caption", Quote(touch.Caption)},
+                   {"text", Quote(touch.Text)},
+                   {"key", std::to_string(+touch.Key)},
+                   {"spoken", Quote(touch.Spoken)}});
+}
+
 std::string DescribeControl(const Control& control) {
     const ControlLayout& layout = LayoutOf(control);
     return Object({{"name", Quote(layout.Name)},
@@ -70,6 +77,8 @@ std::string DescribeControl(const Control& control) {
                    {"italic", Truth(layout.Font.Italic)},
                    {"spoken", Quote(layout.Spoken)},
                    {"readOnly", Truth(layout.ReadOnly)},
+                   {"digits", Truth(layout.Digits)},
+                   {"touch", DescribeTouchKey(layout.Touch)},
                    {"takesClicks", Truth(TakesClicks(control))}});
 }
 

@@ -19,7 +19,7 @@ void Mirror::Build() {
     if (built) return;
     built = true;
     page::Build(DescribeLayouts(windows));
-    for (std::size_t form = 0; form < windows.All.size(); ++form) shownControls[form].resize(windows.All[form]->Controls.size());
+    for (const Form* form : windows.All) shownControls.emplace_back(form->Controls.size());
 }
 
 void Mirror::Copy(const Form* modal, bool blocked) {

@@ -1,13 +1,12 @@
-// Copies to the page what has changed in the windows' models since it last did.
+// Copies to the page what has changed in the windows' models since the last copy.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <vector>
 
-#include "ui/web/page.h"
+#include "ui/web/page_bridge.h"
 #include "ui/windows.h"
 
 namespace ui::web {
@@ -19,7 +18,7 @@ public:
     // The page is built the first time. While a form is modal, or a message box is open (`blocked`), the others take no input.
     void Copy(const Form* modal, bool blocked);
 
-    // Lines as the page displays them, what the page has not heard of yet included.
+    // Lines as the page displays them; the page is first given the text that it does not have yet.
     std::size_t CountLines(const TextBox& box);
 
 private:
@@ -37,7 +36,7 @@ private:
     void CopyFocus();
 
     Windows& windows;
-    std::array<std::vector<Shown>, 5> shownControls;  // like the forms' controls
+    std::vector<std::vector<Shown>> shownControls;  // by form and control
     bool built = false;
 };
 

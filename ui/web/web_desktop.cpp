@@ -9,19 +9,13 @@ namespace ui::web {
 
 namespace {
 
-void Focus(Windows& windows, const Control& control) {
-    if (!TakesFocus(control)) return;
-    if (auto* const* box = std::get_if<TextBox*>(&control)) GiveFocus(windows, **box);
-    if (auto* const* list = std::get_if<ListBox*>(&control)) GiveFocus(windows, **list);
-}
-
-// The page edits the boxes that can be edited, and reports it.
+// The page itself edits the boxes that can be edited and reports that as an Edit event, so their keys are only announced.
 void Key(Windows& windows, const Control& control, char32_t key) {
     if (auto* const* list = std::get_if<ListBox*>(&control)) return PressKey(**list, key);
     auto* const* box = std::get_if<TextBox*>(&control);
     if (box == nullptr) return;
     if ((*box)->Layout.ReadOnly) return PressKey(windows, **box, key);
-    page::AnswerKey(true);  // so it stays when the announcement ends the game
+    page::AnswerKey(true);  // the answer when the announcement ends the game
     page::AnswerKey(AnnounceKey(**box, key));
 }
 
@@ -33,46 +27,39 @@ void Edit(const Control& control, const page::Event& event) {
 }  // namespace
 
 void WebDesktop::Enter(const std::function<void()>& event) {
-    std::string complaint;
-    try {
-        event();
-    } catch (const ProgramEnded&) {
-        ended = true;
-        return;
-    } catch (const GameError& error) {
-        complaint = error.what();
-    }
-    mirror.Copy(modal, false);
-    if (!complaint.empty()) ShowMessageBox(complaint, "Chyba");
+    const Outcome outcome = entry.Run(event);
+    if (outcome.Ended) return;
+    mirror.Copy(entry.Modal(), false);
+    if (!outcome.Complaint.empty()) ShowMessageBox(outcome.Complaint, ErrorTitle);
 }
 
 void WebDesktop::Run() {
-    mirror.Copy(modal, false);
-    while (!ended) PlayNextEvent();
+    mirror.Copy(entry.Modal(), false);
+    while (!entry.Ended()) PlayNextEvent();
     page::SayTheEnd();
 }
 
 void WebDesktop::ShowModal(Form& form) {
-    Form* const outer = std::exchange(modal, &form);
-    Form* const behind = windows.Active;
-    Show(windows, form);
-    mirror.Copy(modal, false);
-    while (form.Visible && !ended) PlayNextEvent();
-    modal = outer;
-    if (ended) EndProcess();
-    if (behind != nullptr) GiveFocus(windows, *behind);
+    entry.ShowModal(form, [&] {
+        mirror.Copy(&form, false);
+        while (form.Visible && !entry.Ended()) PlayNextEvent();
+    });
 }
 
 void WebDesktop::ShowMessageBox(std::string_view text, std::string_view title) {
-    mirror.Copy(modal, true);
+    mirror.Copy(entry.Modal(), true);
     page::OpenMessageBox(text, title);
     for (;;) {
         const page::EventKind kind = page::WaitForEvent().Kind;
         if (kind == page::EventKind::Acknowledge) break;
-        if (kind == page::EventKind::FilesChanged) filesHaveChanged = true;
+        if (kind == page::EventKind::FilesChanged) RunNext(FilesChanged);
     }
     page::CloseMessageBox();
-    mirror.Copy(modal, false);
+    mirror.Copy(entry.Modal(), false);
+}
+
+void WebDesktop::ShowNotice(std::string_view sentence) {
+    page::ShowNotice(sentence);
 }
 
 std::size_t WebDesktop::CountLines(const TextBox& box) const {
@@ -83,17 +70,18 @@ bool WebDesktop::HasFontFamily(std::string_view name) const {
     return name == "Arial" && page::HasArial();
 }
 
-// An event may have been on its way when its window went.
+// The player may have caused the event before its window was hidden or shut.
 bool WebDesktop::IsReachable(const page::Event& event) const {
     if (event.Kind == page::EventKind::Acknowledge) return false;
     const Form* const form = windows.All.at(static_cast<std::size_t>(event.Target.Form));
-    return form->Visible && (modal == nullptr || modal == form);
+    return form->Visible && !entry.IsShut(*form);
 }
 
 void WebDesktop::PlayNextEvent() {
-    if (std::exchange(filesHaveChanged, false)) return Enter(FilesChanged);
+    if (next) return Enter(std::exchange(next, nullptr));
     const page::Event event = page::WaitForEvent();
     if (event.Kind == page::EventKind::FilesChanged) return Enter(FilesChanged);
+    if (event.Kind == page::EventKind::Resume) return Enter(Resumed);
     if (!IsReachable(event)) return;
     Enter([&] { Play(event, *windows.All[static_cast<std::size_t>(event.Target.Form)]); });
 }
@@ -103,7 +91,7 @@ void WebDesktop::Play(const page::Event& event, Form& form) {
     auto* const* list = std::get_if<ListBox*>(&control);
     auto* const* label = std::get_if<Label*>(&control);
     switch (event.Kind) {
-        case page::EventKind::Focus: return Focus(windows, control);
+        case page::EventKind::Focus: return GiveFocus(windows, control);
         case page::EventKind::Key: return Key(windows, control, static_cast<char32_t>(event.Number));
         case page::EventKind::Edit: return Edit(control, event);
         case page::EventKind::ClickEntry:
@@ -113,7 +101,8 @@ void WebDesktop::Play(const page::Event& event, Form& form) {
             if (label != nullptr) ClickLabel(**label);
             return;
         case page::EventKind::Acknowledge:
-        case page::EventKind::FilesChanged: return;
+        case page::EventKind::FilesChanged:
+        case page::EventKind::Resume: return;
     }
 }
 

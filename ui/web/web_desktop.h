@@ -1,27 +1,34 @@
-// The desktop in a browser: mirrors the windows' models in a page. It waits in one place for the page's next event, be it in the main
-// window, in a modal form or in a message box; so nothing ever enters the game while it sleeps.
+// The desktop in a browser: mirrors the windows' models in a page. Main window, modal forms and message boxes all wait in the same place
+// for the page's next event, so no event comes while another one runs.
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "ui/desktop.h"
+#include "ui/event_entry.h"
 #include "ui/web/mirror.h"
-#include "ui/windows.h"
 
 namespace ui::web {
 
 class WebDesktop final : public Desktop {
 public:
-    explicit WebDesktop(Windows& mirrored) : windows(mirrored), mirror(mirrored) {}
+    explicit WebDesktop(Windows& mirrored) : windows(mirrored), entry(mirrored), mirror(mirrored) {}
 
-    // Called when files came or went without the program's doing, as between two events of the player.
+    // Called between two events of the player when the page has added or removed saved games.
     std::function<void()> FilesChanged;
+    // Called when the player wishes to go on with a game that was interrupted.
+    std::function<void()> Resumed;
+
+    // To be run before the page is asked for the next event.
+    void RunNext(std::function<void()> event) { next = std::move(event); }
 
     // Shows the windows and plays until the program ends.
     void Run();
 
     bool HasFontFamily(std::string_view name) const override;
     void ShowMessageBox(std::string_view text, std::string_view title) override;
+    void ShowNotice(std::string_view sentence) override;
     void ShowModal(Form& form) override;
     std::size_t CountLines(const TextBox& box) const override;
 
@@ -32,10 +39,9 @@ private:
     bool IsReachable(const page::Event& event) const;
 
     Windows& windows;
+    EventEntry entry;
     mutable Mirror mirror;
-    Form* modal = nullptr;
-    bool ended = false;
-    bool filesHaveChanged = false;  // while a message was in the way
+    std::function<void()> next;
 };
 
 }  // namespace ui::web

@@ -1,34 +1,36 @@
-// A list box: rows of one height, only whole ones. A list whose focus the program keeps follows the arrows at once, as on every desktop;
-// where the program passes the focus on, arrows move a mark and Enter clicks the marked entry.
+// A list box. In the desktop's layout it shows whole rows of one height; the style may set it in columns. A list whose focus the program
+// keeps follows the arrows at once, as on every desktop; where the program passes the focus on, arrows move a mark and Enter clicks the
+// marked entry.
 import { EventKind } from "./event_queue.mjs";
+import { markHidden } from "./hidden_parts.mjs";
 
 const RowHeight = 16;
 const TwipsPerPixel = 15;
 const Border = 2;
 
 export class EntryList {
-    #page;
+    #desktop;
     #place;
     #rows = document.createElement("div");
     #entries = [];
     #selected = -1;
     #marked = 0;
-    #wholeRows;
 
-    constructor(layout, place, page) {
-        this.#page = page;
+    constructor(layout, place, desktop) {
+        this.#desktop = desktop;
         this.#place = place;
-        this.#wholeRows = Math.floor((layout.height / TwipsPerPixel - Border) / RowHeight);
         this.element = document.createElement("div");
         this.element.className = "list";
-        this.element.style.setProperty("--rows", this.#wholeRows);
+        this.element.style.setProperty("--rows", Math.floor((layout.height / TwipsPerPixel - Border) / RowHeight));
         this.#rows.className = "rows";
         this.#rows.tabIndex = 0;
         this.#rows.setAttribute("role", "listbox");
         this.#rows.setAttribute("aria-label", layout.spoken);
         this.element.append(this.#rows);
-        this.#rows.addEventListener("focusin", () => page.events.post(EventKind.Focus, place));
-        // The pointer leaves the focus to the program.
+        this.#rows.addEventListener("scroll", () => markHidden(this.#rows));
+        new ResizeObserver(() => markHidden(this.#rows)).observe(this.#rows);
+        this.#rows.addEventListener("focusin", () => desktop.events.post(EventKind.Focus, place));
+        // A click leaves the focus where it is, because the program decides who gets it.
         this.#rows.addEventListener("mousedown", (event) => {
             if (event.target !== this.#rows) event.preventDefault();
         });
@@ -36,7 +38,7 @@ export class EntryList {
     }
 
     #click(index) {
-        if (index >= 0) this.#page.events.post(EventKind.ClickEntry, this.#place, { number: index });
+        if (index >= 0) this.#desktop.events.post(EventKind.ClickEntry, this.#place, { number: index });
     }
 
     show(entries, selected) {
@@ -45,6 +47,7 @@ export class EntryList {
             this.#rows.replaceChildren(...entries.map((entry, index) => this.#newRow(entry, index)));
             this.#rows.scrollTop = 0;
             this.#marked = 0;
+            markHidden(this.#rows);
         }
         this.#rows.children[this.#selected]?.setAttribute("aria-selected", "false");
         this.#selected = selected;
@@ -75,13 +78,25 @@ export class EntryList {
         this.#rows.focus({ preventScroll: true });
     }
 
+    // For the next sentence, where the style asks for it.
+    rewind() {
+        if (getComputedStyle(this.#rows).getPropertyValue("--next-sentence").trim() === "from-top") this.#rows.scrollTop = 0;
+    }
+
+    // How many entries are in sight, whole: those are a page.
+    #pageSize() {
+        const { top, bottom } = this.#rows.getBoundingClientRect();
+        const isWhole = (row) => row.getBoundingClientRect().top > top - 2 && row.getBoundingClientRect().bottom < bottom + 2;
+        return Math.max([...this.#rows.children].filter(isWhole).length, 1);
+    }
+
     #rowUnderKey(key, from) {
         const last = this.#entries.length - 1;
         switch (key) {
             case "ArrowUp": return Math.max(from - 1, 0);
             case "ArrowDown": return Math.min(from + 1, last);
-            case "PageUp": return Math.max(from - this.#wholeRows, 0);
-            case "PageDown": return Math.min(Math.max(from, 0) + this.#wholeRows, last);
+            case "PageUp": return Math.max(from - this.#pageSize(), 0);
+            case "PageDown": return Math.min(Math.max(from, 0) + this.#pageSize(), last);
             case "Home": return 0;
             case "End": return last;
             default: return -1;
@@ -89,13 +104,13 @@ export class EntryList {
     }
 
     keyDown(event, character) {
-        const ownsFocus = this.#page.focused === this;
+        const ownsFocus = this.#desktop.focused === this;
         const row = this.#rowUnderKey(event.key, ownsFocus ? this.#selected : this.#marked);
         if (row >= 0) {
             if (ownsFocus) this.#click(row);
             else this.#mark(row, true);
         } else if (ownsFocus && character !== 0) {
-            this.#page.events.post(EventKind.Key, this.#place, { number: character });
+            this.#desktop.events.post(EventKind.Key, this.#place, { number: character });
         } else if (event.key === "Enter" || event.key === " ") {
             this.#click(Math.min(this.#marked, this.#entries.length - 1));
         } else {

@@ -1,8 +1,8 @@
 // What the player did, in order, until the program asks for it. It gets the next event in the same task that the browser reported it in,
 // so the answer is in the page before that task ends.
 
-// As in page.h.
-export const EventKind = { Focus: 0, Key: 1, Edit: 2, ClickEntry: 3, ClickLabel: 4, Acknowledge: 5, FilesChanged: 6 };
+// As in page_bridge.h.
+export const EventKind = { Focus: 0, Key: 1, Edit: 2, ClickEntry: 3, ClickLabel: 4, Acknowledge: 5, FilesChanged: 6, Resume: 7 };
 
 export class EventQueue {
     #events = [];

@@ -1,6 +1,5 @@
 // A window of the game with its controls and picture.
 import { EntryList } from "./entry_list.mjs";
-import { addressOf } from "./files.mjs";
 import { InputLine } from "./input_line.mjs";
 import { LabelArea } from "./label_area.mjs";
 import { OutputView } from "./output_view.mjs";
@@ -19,29 +18,44 @@ function dress(element, layout) {
 }
 
 export class FormWidget {
+    #desktop;
     #picture = "";
+    #pictured;
+    // Fulfilled when its picture has come.
+    pictured = new Promise((pictured) => { this.#pictured = pictured; });
 
-    constructor(layout, form, page) {
+    constructor(layout, form, desktop) {
+        this.#desktop = desktop;
         this.element = document.createElement("section");
         this.element.id = layout.name;
         this.element.className = layout.backdrop ? "form backdrop" : layout.framed ? "form main" : "form panel";
         this.element.hidden = true;
         if (!layout.backdrop) this.element.setAttribute("aria-label", layout.caption);
-        // What is behind it is made inert; that it is modal must not be said, or readers would not hear the announcer.
+        // The windows behind a panel are inert. It has no aria-modal, because screen readers would then leave out the announcer, which
+        // lies outside of it.
         if (this.element.classList.contains("panel")) this.element.setAttribute("role", "dialog");
         dress(this.element, layout);
-        this.controls = layout.controls.map((each, control) => new Kinds[each.kind](each, { form, control }, page));
+        this.controls = layout.controls.map((each, control) => new Kinds[each.kind](each, { form, control }, desktop));
         this.controls.forEach((control, index) => {
             control.element.id = `${layout.name}.${layout.controls[index].name}`;
             control.element.classList.add("control");
             dress(control.element, layout.controls[index]);
         });
+        // A new sentence begins at the top of the lists.
+        for (const line of this.controls.filter((control) => control.isReadOnly)) {
+            line.onEmpty = () => this.controls.forEach((control) => control.rewind?.());
+        }
         this.element.append(...this.controls.map((control) => control.element));
     }
 
     // What its boxes and labels have to say since they were last asked.
     takeNews() {
         return this.element.hidden ? [] : this.controls.map((control) => control.takeNews?.() ?? "");
+    }
+
+    // Of what a resumed game shows, the player has read all but perhaps the last reply.
+    keepLastReply() {
+        this.controls.forEach((control) => control.keepLastReply?.());
     }
 
     // The game has ended: there is nothing left to do but to read.
@@ -54,6 +68,19 @@ export class FormWidget {
         this.element.inert = !reachable;
         if (this.#picture === picture) return;
         this.#picture = picture;
-        this.element.style.setProperty("--picture", `url("${addressOf(`pics/${picture}.webp`)}")`);
+        this.#showPicture(picture);
+    }
+
+    // A window whose picture does not come is played without it.
+    async #showPicture(picture) {
+        try {
+            const address = await this.#desktop.files.fetchPicture(picture);
+            await Object.assign(new Image(), { src: address }).decode();
+            if (this.#picture !== picture) return;
+            this.element.style.setProperty("--picture", `url("${address}")`);
+            this.#pictured();
+        } catch (error) {
+            console.warn(error);
+        }
     }
 }

@@ -1,19 +1,18 @@
 // Takes files in among the saved games, once the program has found that a load will accept them.
+import { equalBytes } from "./bytes.mjs";
+import { inTime } from "./deadline.mjs";
 
 const Findings = ["sound", "damaged", "too long", "name refused"];  // as in saves/save_inspection.h
-const EnoughBytes = 2 ** 22;  // of a file; the program finds less too long
+// Read of a file. More than any saved game has: the program refuses as too long what is even shorter than this.
+const EnoughBytes = 2 ** 22;
 const Incoming = "/incoming";
 
 function inspect(engine, bytes) {
     engine.FS.writeFile(Incoming, bytes);
     engine._InspectIncoming();
     engine.FS.unlink(Incoming);
-    const { finding, name } = engine.page.inspection;
+    const { finding, name } = engine.desktop.inspection;
     return { finding: Findings[finding], name };
-}
-
-function same(some, others) {
-    return some.length === others.length && some.every((byte, index) => byte === others[index]);
 }
 
 export class IncomingFiles {
@@ -32,7 +31,7 @@ export class IncomingFiles {
     async take(file) {
         let bytes;
         try {
-            bytes = new Uint8Array(await file.slice(0, EnoughBytes).arrayBuffer());
+            bytes = new Uint8Array(await inTime(file.slice(0, EnoughBytes).arrayBuffer()));
         } catch {
             return `Soubor „${file.name}“ se nepodařilo přečíst.`;
         }
@@ -48,14 +47,10 @@ export class IncomingFiles {
     async #takeSound(file, name, bytes) {
         if (!this.#savedGames.canName(name)) return `Název pozice v souboru „${file.name}“ je příliš dlouhý.`;
         const present = this.#savedGames.bytes(name);
-        if (present && same(present, bytes)) return `Pozice „${name}“ už tu je, a úplně stejná.`;
+        if (equalBytes(present, bytes)) return `Pozice „${name}“ už tu je, a úplně stejná.`;
         if (!await this.#mayTake(file, name, present !== undefined)) return `Soubor „${file.name}“ zůstal stranou.`;
-        try {
-            await this.#savedGames.put(name, bytes);
-        } catch {
-            return `Pozice „${name}“ je přidaná, ale jen do otevřené stránky: prohlížeč ji neuložil.`;
-        }
-        return `Pozice „${name}“ je přidaná.`;
+        const kept = await this.#savedGames.put(name, bytes).catch(() => false);
+        return kept ? `Pozice „${name}“ je přidaná.` : `Pozice „${name}“ je přidaná, ale jen do otevřené stránky: prohlížeč ji neuložil.`;
     }
 
     // A file under another name would end the game when it is loaded.

@@ -17,16 +17,16 @@ function isShortcut(event) {
     return (event.ctrlKey || event.metaKey || event.altKey) && !event.getModifierState("AltGraph");
 }
 
-export function listenToKeys(page, messageBox) {
+export function listenToKeys(desktop, messageBox) {
     document.addEventListener("keydown", (event) => {
         // Held, these are one wish: what they brought has not been read yet.
         if (event.repeat && ["Enter", "Escape"].includes(event.key)) return event.preventDefault();
         if (event.isComposing || isShortcut(event) || document.querySelector("dialog[open]")) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);
-        const here = page.controlAround(document.activeElement);
+        const here = desktop.controlAround(document.activeElement);
         if (here === null && document.activeElement !== document.body) return;  // outside of the windows
         const character = characterOf(event);
-        if (here?.keyDown(event, character) || here === page.focused) return;
-        page.focused?.keyDown(event, character);
+        if (here?.keyDown(event, character) || here === desktop.focused) return;
+        desktop.focused?.keyDown(event, character);
     });
 }

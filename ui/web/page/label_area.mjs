@@ -1,4 +1,4 @@
-// A label: a centred caption, or a transparent area that takes clicks.
+// A label: a centred caption, or the transparent button that lies over one.
 import { EventKind } from "./event_queue.mjs";
 
 export class LabelArea {
@@ -6,7 +6,7 @@ export class LabelArea {
     #spoken;
     #news = "";
 
-    constructor(layout, place, page) {
+    constructor(layout, place, desktop) {
         this.#button = layout.takesClicks;
         this.element = document.createElement(this.#button ? "button" : "output");
         this.element.className = "label";
@@ -14,7 +14,7 @@ export class LabelArea {
         if (!this.#button) return this.element.setAttribute("aria-live", "off");
         this.element.type = "button";
         this.element.addEventListener("mousedown", (event) => event.preventDefault());  // the focus stays where it is
-        this.element.addEventListener("click", () => page.events.post(EventKind.ClickLabel, place));
+        this.element.addEventListener("click", () => desktop.events.post(EventKind.ClickLabel, place));
     }
 
     show(caption, colour, state) {
@@ -33,7 +33,7 @@ export class LabelArea {
 
     focus() {}
 
-    // Buttons are pressed by the browser.
+    // The browser itself turns Enter and Space on a button into a click, so the program must not hear of these keys.
     keyDown(event) {
         return this.#button && (event.key === "Enter" || event.key === " ");
     }

@@ -1,5 +1,6 @@
-// A box of many lines that is only read. New text is set at its end; what stands before it is not laid out again.
+// A box of many lines that is only read. Its lines stand in chunks, so that new text makes the browser lay out the last chunk alone.
 import { EventKind } from "./event_queue.mjs";
+import { markHidden } from "./hidden_parts.mjs";
 
 const LinesInChunk = 64;  // a chunk that is full is never touched again
 
@@ -15,9 +16,10 @@ export class OutputView {
     #line = null;
     #news = "";
     #newest = null;  // the line where the news began
-    #atEnd = false;
+    #follows = false;  // whether the newest words are kept in sight: until the player scrolls away from them
+    #shownFrom = 0;  // where they were last scrolled to
 
-    constructor(layout, place, page) {
+    constructor(layout, place, desktop) {
         this.element = newElement("div", "output");
         this.element.tabIndex = 0;
         this.element.setAttribute("role", "log");
@@ -26,13 +28,14 @@ export class OutputView {
         this.#probe.textContent = "1";
         this.#probe.setAttribute("aria-hidden", "true");
         this.element.append(this.#text, this.#probe);
-        this.element.addEventListener("focusin", () => page.events.post(EventKind.Focus, place));
-        this.element.addEventListener("click", () => page.takeFocus());
-        // An on-screen keyboard must not cover the last words.
+        this.element.addEventListener("focusin", () => desktop.events.post(EventKind.Focus, place));
+        this.element.addEventListener("click", () => desktop.takeFocus());
         this.element.addEventListener("scroll", () => {
             const { scrollTop, clientHeight, scrollHeight } = this.element;
-            this.#atEnd = scrollTop + clientHeight >= scrollHeight - 2;
+            this.#follows = Math.abs(scrollTop - this.#shownFrom) < 2 || scrollTop + clientHeight >= scrollHeight - 2;
+            markHidden(this.element);
         });
+        // The last words stay in sight when a phone is turned, or when its keyboard takes a part of the page.
         new ResizeObserver(() => this.#follow()).observe(this.element);
         this.clear();
     }
@@ -65,20 +68,32 @@ export class OutputView {
         return news;
     }
 
-    show(visible, atEnd) {
-        this.element.classList.toggle("invisible", !visible);
-        this.#atEnd = atEnd;
+    // Of all that stands there, the last paragraph alone is news.
+    keepLastReply() {
+        const lines = [...this.#text.querySelectorAll("p")];
+        const first = lines.findLastIndex((line) => line.textContent === "") + 1;
+        this.#news = lines.slice(first).map((line) => line.textContent).join("\r\n");
+        this.#newest = lines[first] ?? null;
         this.#follow();
     }
 
-    // To the end; where the style asks for it, only so far that the news are read from their beginning.
-    #follow() {
-        if (!this.#atEnd) return;
-        const fromBeginning = getComputedStyle(this.element).getPropertyValue("--news").trim() === "from-beginning";
-        this.element.scrollTop = fromBeginning && this.#newest ? this.#newest.offsetTop : this.element.scrollHeight;
+    show(visible, atEnd) {
+        this.element.classList.toggle("invisible", !visible);
+        this.#follows = atEnd;
+        this.#follow();
+        markHidden(this.element);
     }
 
-    // All lines are equally high.
+    // Scrolls to the end. Where the style asks for it, scrolls no further than to the beginning of the news, because in a small box their
+    // beginning would be out of sight.
+    #follow() {
+        if (!this.#follows) return;
+        const fromBeginning = getComputedStyle(this.element).getPropertyValue("--news").trim() === "from-beginning";
+        this.element.scrollTop = fromBeginning && this.#newest ? this.#newest.offsetTop : this.element.scrollHeight;
+        this.#shownFrom = this.element.scrollTop;
+    }
+
+    // Every line is as high as the probe, which has one.
     countLines() {
         const line = this.#probe.getBoundingClientRect().height;
         return line > 0 ? Math.round(this.#text.getBoundingClientRect().height / line) : 1;

@@ -2,7 +2,7 @@
 import { IncomingFiles } from "./incoming_files.mjs";
 import { zip } from "./zip.mjs";
 
-const Told = "orvel-tavoren-told";  // that the browser promised nothing
+const Told = "orvel-tavoren-told";  // set once the player has read that the browser promised nothing
 const AllFiles = "orvel-tavoren-pozice.zip";
 
 function newElement(name, properties = {}, ...children) {
@@ -18,11 +18,7 @@ function newButton(textContent, act, label) {
     return button;
 }
 
-function listed(names) {
-    return names.map((name) => `„${name}“`).join(", ");
-}
-
-// In a private window this too is gone with the window, so the next one says it again.
+// A private window forgets this when it is closed, so the hint comes again in the next one.
 function wasTold() {
     try {
         return localStorage.getItem(Told) !== null;
@@ -35,7 +31,7 @@ function rememberTold() {
     try {
         localStorage.setItem(Told, "");
     } catch {
-        // It will be said again.
+        // A browser that keeps nothing shows the hint on every visit.
     }
 }
 
@@ -46,7 +42,7 @@ export class PageMenu {
     #asking = null;
     #told = wasTold();
     #header = newElement("header", { id: "page-menu" });
-    #notice = newElement("p", { id: "storage-notice" });
+    #line;
     #where = newElement("p");
     #list = newElement("ul", { id: "saved-games" });
     #answers = newElement("div", { id: "answers" });
@@ -55,8 +51,9 @@ export class PageMenu {
     #input = newElement("input", { id: "incoming-files", type: "file", multiple: true, hidden: true });
     #dialog = newElement("dialog", { id: "saved-games-dialog", tabIndex: -1 });
 
-    constructor(engine, savedGames) {
+    constructor(engine, savedGames, noticeLine) {
         this.#savedGames = savedGames;
+        this.#line = noticeLine;
         this.#incoming = new IncomingFiles(engine, savedGames, (question, yes, no) => this.#ask(question, yes, no));
         savedGames.onNews = () => this.#show();
         this.#build();
@@ -68,9 +65,8 @@ export class PageMenu {
         const open = newButton("Pozice", () => this.#open(), "Uložené pozice");
         open.id = "open-saved-games";
         open.addEventListener("mousedown", (event) => event.preventDefault());  // the focus stays in the game
-        this.#notice.setAttribute("role", "status");
         this.#answers.setAttribute("role", "status");
-        this.#header.append(open, this.#notice);
+        this.#header.append(open, this.#line.element);
         document.body.prepend(this.#header);
 
         const title = newElement("h2", { id: "saved-games-title", textContent: "Uložené pozice" });
@@ -107,28 +103,13 @@ export class PageMenu {
         this.#dialog.showModal();
     }
 
-    #warning() {
-        const saved = this.#savedGames;
-        if (saved.refused) return "Prohlížeč tu pozice neuchová. Ukládat se dá, ale jen do zavření stránky: pozice si stáhněte.";
-        const onlyHere = saved.names().filter((name) => saved.isOnlyHere(name));
-        if (onlyHere.length > 0) {
-            return `Prohlížeč nedokázal uložit: ${listed(onlyHere)}. Stáhněte si je, než stránku zavřete.`;
-        }
-        if (saved.hasFailed) return "Úložiště prohlížeče selhalo a pozice v něm nemusí vydržet. Pro jistotu si je stáhněte.";
-        return saved.isPrivate ? "Tohle je anonymní okno: pozice zmizí, jakmile ho zavřete. Stáhněte si je." : "";
-    }
-
     #show() {
-        const warning = this.#warning();
+        const warning = this.#savedGames.warning();
         const hint = warning === "" && this.#savedGames.promised === false && !this.#told;
         const text = hint
             ? "Pozice jsou v tomto prohlížeči, ale neslíbil, že je uchová napořád; z anonymního okna zmizí hned. Stahujte si je."
             : warning;
-        if (this.#notice.firstChild?.data !== text) {
-            this.#notice.replaceChildren(text);
-            this.#header.classList.toggle("telling", text !== "");
-            if (hint) this.#notice.append(newButton("Rozumím", () => this.#forgetHint()));
-        }
+        this.#line.stand("storage", text, ...hint ? [newButton("Rozumím", () => this.#forgetHint())] : []);
         this.#where.textContent = warning ||
             "Ve hře je načtete slovesem Nahraj pozici. Uchovává je tento prohlížeč: když se jeho data vymažou, zmizí i ony; " +
             "zálohou je stažený soubor.";

@@ -1,40 +1,35 @@
-// Fetches what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
+// Gets what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
+import createEngine from "engine";  // what emscripten makes of the program; the build says where that is
+import { BrowserStore, askToKeepForGood, isPrivateWindow } from "./browser_store.mjs";
+import { Desktop } from "./desktop.mjs";
 import { EventKind } from "./event_queue.mjs";
-import { addressOf, fetchBytes, fetchProgram, keepForOffline } from "./files.mjs";
-import { Page } from "./page.mjs";
 import { PageMenu } from "./page_menu.mjs";
+import { Records } from "./records.mjs";
+import { keepRunningGame } from "./resuming.mjs";
 import { SavedGames } from "./saved_games.mjs";
+import { SavesFolder } from "./saves_folder.mjs";
 import { loadTextFace } from "./text_face.mjs";
 import { Trouble, showTrouble, watchProgram } from "./trouble.mjs";
 import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
-function importEngine() {
-    return import("./engine.mjs").catch((cause) => {
-        const reason = cause instanceof SyntaxError ? "damaged" : "missing";
-        throw new Trouble(reason, { address: addressOf("./engine.mjs"), cause });
-    });
+// The title's picture stands in for that of the main window until that has come.
+async function takeTitleAway(desktop) {
+    const title = document.getElementById("title");
+    for (const type of ["keydown", "pointerdown"]) addEventListener(type, () => title?.classList.add("behind"), { capture: true, once: true });
+    await desktop.pictured;
+    requestAnimationFrame(() => setTimeout(() => title?.remove()));
 }
 
-// The main window shall not be seen without its picture; but one that does not come keeps nobody from playing.
-async function loadTitlePicture() {
-    const loaded = Object.assign(new Image(), { src: addressOf("pics/gui1.webp") }).decode().catch(() => {});
-    await Promise.race([loaded, new Promise((late) => { setTimeout(late, 3000); })]);
-}
-
-// The main window shows the same picture by the next frame.
-function takeTitleAway() {
-    requestAnimationFrame(() => setTimeout(() => document.getElementById("title")?.remove()));
-}
-
-async function start() {
+async function run(files) {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
-    const [{ default: createEngine }, program, story, hasArial] =
-        await Promise.all([importEngine(), fetchProgram("engine.wasm"), fetchBytes("texs.dat"), loadTextFace(), loadTitlePicture()]);
-    const page = new Page(document.getElementById("stage"), hasArial);
+    const face = loadTextFace();
+    const [program, story] = await Promise.all([files.fetchProgram("engine.wasm"), files.fetchBytes("texs.dat")]);
+    const hasArial = await face;
+    const desktop = new Desktop(document.getElementById("stage"), files, hasArial);
     const engine = await createEngine({
-        page,
+        desktop,
         noInitialRun: true,
         instantiateWasm(imports, done) {
             WebAssembly.instantiate(program, imports).then((instance) => done(instance, program), showTrouble);
@@ -43,17 +38,23 @@ async function start() {
     });
     engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
-    const savedGames = new SavedGames(engine.FS, `${ProgramFolder}/data/saves`);
-    savedGames.onChange = () => page.events.post(EventKind.FilesChanged);
-    new PageMenu(engine, savedGames);
+    const folder = new SavesFolder(engine.FS, `${ProgramFolder}/data/saves`);
+    const records = new Records(new BrowserStore("orvel-tavoren", "saves"), folder);
+    const savedGames = new SavedGames(folder, records, { askToKeepForGood, isPrivateWindow });
+    savedGames.onChange = () => desktop.events.post(EventKind.FilesChanged);
+    new PageMenu(engine, savedGames, desktop.notices);
     askBeforeLeaving(engine, savedGames);
     document.getElementById("notice").textContent = "";
     watchProgram();
     engine.callMain([]);
-    takeTitleAway();
+    keepRunningGame(engine, desktop);
+    takeTitleAway(desktop);
     dispatchEvent(new Event("playing"));
-    keepForOffline();
+    files.keepForOffline();
 }
 
-dispatchEvent(new Event("starting"));
-start().catch(showTrouble);
+// `files` says where the page's files come from.
+export function start(files) {
+    dispatchEvent(new Event("starting"));
+    run(files).catch(showTrouble);
+}

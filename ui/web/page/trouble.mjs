@@ -1,4 +1,4 @@
-// Why there is no game. index.html has a sentence for each reason, and watch.js shows it.
+// Why there is no game. index.html has a sentence for each reason, and loader.js shows it.
 
 export class Trouble extends Error {
     constructor(reason, { address = "", cause } = {}) {

@@ -1,7 +1,7 @@
 // Leaving the page while something would be lost asks first, in the browser's own words.
 
 export function askBeforeLeaving(engine, savedGames) {
-    const wouldLoseSteps = () => engine.page.game !== 0 && engine._WouldLoseSteps(engine.page.game) !== 0;
+    const wouldLoseSteps = () => engine.desktop.game !== 0 && engine._WouldLoseSteps(engine.desktop.game) !== 0;
     window.addEventListener("beforeunload", (event) => {
         if (!savedGames.wouldBeLost() && !wouldLoseSteps()) return;
         event.preventDefault();

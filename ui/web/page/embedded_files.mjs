@@ -1,15 +1,12 @@
-// Where the files of the page in one file come from: elements of the page, in base64; all but pictures were packed with gzip before.
+// Where the files of the page in one file come from: elements of the page, in base64. All but pictures were packed with gzip before.
 import { Trouble } from "./trouble.mjs";
 
-const damaged = (cause) => new Trouble("incomplete", { cause });
+export function damagedFile(name, cause) {
+    return new Trouble("incomplete", { cause });
+}
 
 function contentOf(name) {
     return document.getElementById(`file:${name}`)?.textContent ?? "";
-}
-
-// Of pictures only.
-export function addressOf(name) {
-    return `data:image/webp;base64,${contentOf(name)}`;
 }
 
 export async function fetchBytes(name) {
@@ -18,12 +15,16 @@ export async function fetchBytes(name) {
         const bytes = new Blob([packed]).stream().pipeThrough(new DecompressionStream("gzip"));
         return new Uint8Array(await new Response(bytes).arrayBuffer());
     } catch (error) {
-        throw damaged(error);
+        throw damagedFile(name, error);
     }
 }
 
 export async function fetchProgram(name) {
-    return WebAssembly.compile(await fetchBytes(name)).catch((error) => { throw damaged(error); });
+    return WebAssembly.compile(await fetchBytes(name)).catch((error) => { throw damagedFile(name, error); });
+}
+
+export async function fetchPicture(name) {
+    return `data:image/webp;base64,${contentOf(`pics/${name}.webp`)}`;
 }
 
 // It is all there.

@@ -1,51 +1,55 @@
-#include "ui/web/page.h"
+#include "ui/web/page_bridge.h"
 
 #include <emscripten.h>
 
 #include <cstdlib>
 
-// Here the linter and the formatter would take JavaScript for C++.
+// The linter and the formatter would take this JavaScript for C++.
 // clang-format off
 // NOLINTBEGIN
-EM_ASYNC_JS(void, page_wait, (), { await Module.page.waitForEvent(); })
-EM_JS(int, page_event_number, (int field), { return Module.page.eventNumber(field); })
-EM_JS(char*, page_event_text, (int field), { return allocateUTF8(Module.page.eventText(field)); })
-EM_JS(void, page_answer_key, (int swallowed), { Module.page.answerKey(swallowed !== 0); })
-EM_JS(void, page_build, (const char* layouts, int size), { Module.page.build(JSON.parse(UTF8ToString(layouts, size))); })
+EM_ASYNC_JS(void, page_wait, (), { await Module.desktop.waitForEvent(); })
+EM_JS(int, page_event_number, (int field), { return Module.desktop.eventNumber(field); })
+EM_JS(char*, page_event_text, (int field), { return allocateUTF8(Module.desktop.eventText(field)); })
+EM_JS(void, page_answer_key, (int swallowed), { Module.desktop.answerKey(swallowed !== 0); })
+EM_JS(void, page_build, (const char* layouts, int size), { Module.desktop.build(JSON.parse(UTF8ToString(layouts, size))); })
 EM_JS(void, page_show_form, (int form, int visible, int reachable, const char* picture, int size), {
-    Module.page.showForm(form, visible !== 0, reachable !== 0, UTF8ToString(picture, size));
+    Module.desktop.showForm(form, visible !== 0, reachable !== 0, UTF8ToString(picture, size));
 })
 EM_JS(void, page_show_output, (int form, int control, int visible, int atEnd), {
-    Module.page.control(form, control).show(visible !== 0, atEnd !== 0);
+    Module.desktop.control(form, control).show(visible !== 0, atEnd !== 0);
 })
 EM_JS(void, page_write_output, (int form, int control, const char* text, int size, int replace) , {
-    const view = Module.page.control(form, control);
+    const view = Module.desktop.control(form, control);
     if (replace) view.clear();
     view.append(UTF8ToString(text, size));
 })
 EM_JS(void, page_show_line, (int form, int control, const char* text, int size, int caret), {
-    Module.page.control(form, control).show(UTF8ToString(text, size), UTF8ToString(text, caret).length);
+    Module.desktop.control(form, control).show(UTF8ToString(text, size), UTF8ToString(text, caret).length);
 })
 EM_JS(void, page_show_list, (int form, int control, const char* entries, int size, int selected), {
-    Module.page.control(form, control).show(UTF8ToString(entries, size).split("\n").slice(0, -1), selected);
+    Module.desktop.control(form, control).show(UTF8ToString(entries, size).split("\n").slice(0, -1), selected);
 })
 EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int colour, const char* light, int lightSize), {
     const hex = colour.toString(16).padStart(6, "0");
-    Module.page.control(form, control).show(UTF8ToString(caption, size), "#" + hex, UTF8ToString(light, lightSize));
+    Module.desktop.control(form, control).show(UTF8ToString(caption, size), "#" + hex, UTF8ToString(light, lightSize));
 })
-EM_JS(void, page_show_focus, (int form, int control), { Module.page.showFocus(form, control); })
-EM_JS(void, page_show_busy_pointer, (int busy), { Module.page.showBusyPointer(busy !== 0); })
+EM_JS(void, page_show_focus, (int form, int control), { Module.desktop.showFocus(form, control); })
+EM_JS(void, page_show_busy_pointer, (int busy), { Module.desktop.showBusyPointer(busy !== 0); })
 EM_JS(void, page_open_message_box, (const char* text, int textSize, const char* title, int titleSize), {
-    Module.page.openMessageBox(UTF8ToString(text, textSize), UTF8ToString(title, titleSize));
+    Module.desktop.openMessageBox(UTF8ToString(text, textSize), UTF8ToString(title, titleSize));
 })
-EM_JS(void, page_close_message_box, (), { Module.page.closeMessageBox(); })
-EM_JS(void, page_say_the_end, (), { Module.page.sayTheEnd(); })
-EM_JS(void, page_say_the_story_is_damaged, (), { Module.page.sayTheStoryIsDamaged(); })
-EM_JS(int, page_count_output_lines, (int form, int control), { return Module.page.control(form, control).countLines(); })
-EM_JS(int, page_has_arial, (), { return Module.page.hasArial ? 1 : 0; })
-EM_JS(void, page_offer_game, (const void* game), { Module.page.game = game; })
+EM_JS(void, page_close_message_box, (), { Module.desktop.closeMessageBox(); })
+EM_JS(void, page_show_notice, (const char* sentence, int size), { Module.desktop.notices.say(UTF8ToString(sentence, size)); })
+EM_JS(void, page_say_the_end, (), { Module.desktop.sayTheEnd(); })
+EM_JS(void, page_say_the_story_is_damaged, (), { Module.desktop.sayTheStoryIsDamaged(); })
+EM_JS(int, page_count_output_lines, (int form, int control), { return Module.desktop.control(form, control).countLines(); })
+EM_JS(int, page_has_arial, (), { return Module.desktop.hasArial ? 1 : 0; })
+EM_JS(void, page_offer_game, (const void* game), { Module.desktop.game = game; })
 EM_JS(void, page_answer_inspection, (int finding, const char* name, int size), {
-    Module.page.inspection = { finding, name: UTF8ToString(name, size) };
+    Module.desktop.inspection = { finding, name: UTF8ToString(name, size) };
+})
+EM_JS(void, page_answer_snapshot, (const void* snapshot, int size), {
+    Module.desktop.snapshot = size > 0 ? HEAPU8.slice(snapshot, snapshot + size) : null;
 })
 EM_JS(double, page_random, (), { return Math.random(); })
 // NOLINTEND
@@ -140,6 +144,10 @@ void CloseMessageBox() {
     page_close_message_box();
 }
 
+void ShowNotice(std::string_view sentence) {
+    page_show_notice(sentence.data(), Size(sentence));
+}
+
 void SayTheEnd() {
     page_say_the_end();
 }
@@ -162,6 +170,10 @@ void OfferGame(const void* game) {
 
 void AnswerInspection(int finding, std::string_view name) {
     page_answer_inspection(finding, name.data(), Size(name));
+}
+
+void AnswerSnapshot(std::span<const std::uint8_t> snapshot) {
+    page_answer_snapshot(snapshot.data(), static_cast<int>(snapshot.size()));
 }
 
 double Random() {

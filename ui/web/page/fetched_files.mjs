@@ -1,12 +1,16 @@
-// Where the page's files come from: beside this script. The page in one file has another module of this name.
+// Where the site's files come from: the folder that this script is in.
 import { Trouble } from "./trouble.mjs";
 
-export function addressOf(name) {
+function addressOf(name) {
     return new URL(name, import.meta.url).href;
 }
 
-function trouble(reason, file, cause) {
-    return new Trouble(reason, { address: addressOf(file), cause });
+function trouble(reason, name, cause) {
+    return new Trouble(reason, { address: addressOf(name), cause });
+}
+
+export function damagedFile(name, cause) {
+    return trouble("damaged", name, cause);
 }
 
 async function fetchFile(name) {
@@ -30,8 +34,14 @@ export async function fetchProgram(name) {
     const compiled = streams ? WebAssembly.compileStreaming(response) : WebAssembly.compile(await readAll(response, name));
     // Browsers have many errors for a program that is not one, and these for a network that went.
     return compiled.catch((error) => {
-        throw trouble(error instanceof TypeError || error instanceof DOMException ? "unreachable" : "damaged", name, error);
+        throw error instanceof TypeError || error instanceof DOMException ? trouble("unreachable", name, error) : damagedFile(name, error);
     });
+}
+
+// An address at which the picture stays: a server on which a newer version lies has this one's pictures no more.
+export async function fetchPicture(name) {
+    const response = await fetchFile(`pics/${name}.webp`);
+    return URL.createObjectURL(await response.blob());
 }
 
 // From the next visit on the page starts without a network, where the browser allows that.

@@ -1,36 +1,54 @@
-// The page as the program sees it: page.cpp calls these functions, and takes its events here.
+// The desktop of the game in the page, as the program sees it: page_bridge.cpp calls these functions, and takes its events here.
 import { Announcer } from "./announcer.mjs";
-import { EventQueue } from "./event_queue.mjs";
+import { EventKind, EventQueue } from "./event_queue.mjs";
 import { sayTheEnd } from "./ending.mjs";
-import { addressOf } from "./files.mjs";
 import { FormWidget } from "./form_widget.mjs";
 import { listenToKeys } from "./keyboard.mjs";
 import { MessageBox } from "./message_box.mjs";
-import { Trouble, showTrouble } from "./trouble.mjs";
+import { NoticeLine } from "./notice_line.mjs";
+import { showTrouble } from "./trouble.mjs";
+import { stayInSight } from "./visible_area.mjs";
 
-export class Page {
+const Enter = 13;
+
+// Whether the event ran what stands in a line, or went on from the title.
+function isCommand(event) {
+    return event?.kind === EventKind.ClickLabel || event?.kind === EventKind.Key && event.number === Enter;
+}
+
+export class Desktop {
     #stage;
     #forms = [];
     #messageBox;
     #announcer = new Announcer();
     #focusPlace = "";
 
-    constructor(stage, hasArial) {
+    constructor(stage, files, hasArial) {
         this.#stage = stage;
+        this.files = files;
         this.hasArial = hasArial;
         this.events = new EventQueue();
+        this.notices = new NoticeLine();
         this.#messageBox = new MessageBox(this.events);
         this.focused = null;  // the control that has the focus in the program
         this.keySwallowed = false;
         this.game = 0;  // its address in the program, for the program's answers; 0 when none is running
+        this.pictured = null;  // fulfilled when the main window has its picture
         this.inspection = null;  // the program's answer about a file
+        this.snapshot = null;  // the program's answer to the wish for a snapshot
+        this.onCommand = () => {};  // a command has been carried out, or has ended the game
         stage.append(this.#messageBox.element, this.#announcer.element);
         listenToKeys(this, this.#messageBox);
+        stayInSight();
+        addEventListener("trouble", () => { this.game = 0; });  // a program that has crashed answers no more
     }
 
-    waitForEvent() {
+    async waitForEvent() {
+        if (isCommand(this.events.current)) this.onCommand();
+        if (this.events.current?.kind === EventKind.Resume) this.#forms.forEach((form) => form.keepLastReply());
         this.#announce();
-        return this.events.take();
+        await this.events.take();
+        if (isCommand(this.events.current)) this.notices.pass();
     }
 
     #announce() {
@@ -56,6 +74,7 @@ export class Page {
         this.#stage.prepend(...this.#forms.map((form) => form.element));
         const framed = layouts.find((layout) => layout.framed);
         document.title = framed.caption;
+        this.pictured = this.#forms[layouts.indexOf(framed)].pictured;
         this.#stage.style.setProperty("--stage-width", framed.width);
         this.#stage.style.setProperty("--stage-height", framed.height);
     }
@@ -104,10 +123,11 @@ export class Page {
         this.#forms.forEach((form) => form.retire());
         this.#announce();
         this.game = 0;
+        this.onCommand();
         sayTheEnd();
     }
 
     sayTheStoryIsDamaged() {
-        showTrouble(new Trouble("damaged", { address: addressOf("texs.dat") }));
+        showTrouble(this.files.damagedFile("texs.dat"));
     }
 }

@@ -1,7 +1,9 @@
 // Fetches the game when its title stands on the screen, and says in its place why there is none. A script for browsers of any age, so that
 // those too old for the game are told as well.
 (function () {
-    var game = document.currentScript.getAttribute("data-game");
+    var own = document.currentScript;
+    var game = own.getAttribute("data-game");  // the address of its script; in the page in one file there is none
+    var needs = (own.getAttribute("data-needs") || "").split(" ");  // what that script asks for first, beside it
     var asked = false;
     var started = false;
     var enterPressed = false;
@@ -16,7 +18,7 @@
         again.hidden = reason === "old" || reason === "folder";
         again.onclick = function () {
             function reload() { location.reload(); }
-            // What the browser keeps of a damaged file would come back.
+            // The browser may have kept a damaged file, and would use it again.
             if (address) fetch(address, { cache: "reload" }).then(reload, reload);
             else reload();
         };
@@ -30,30 +32,45 @@
         return !("noModule" in document.createElement("script")) || !("inert" in document.body) || !window.CSS || !CSS.registerProperty;
     }
 
+    // A script's events tell neither a missing file from a lost network nor a damaged file from a sound one.
     function checkStart() {
-        if (!started) show(location.protocol === "file:" && document.getElementById("trouble-folder") ? "folder" : "incomplete");
+        if (started) return;
+        if (!game) show("incomplete");
+        else if (location.protocol === "file:") show("folder");
+        else fetch(game).then(function (answer) { show(answer.ok ? "damaged" : "missing", game); }, function () { show("unreachable", game); });
     }
 
+    function add(parent, name, attributes) {
+        var element = document.createElement(name);
+        for (var attribute in attributes) element.setAttribute(attribute, attributes[attribute]);
+        return parent.appendChild(element);
+    }
+
+    // Everything that the game starts with is on its way at once; nothing of it waits for a script that would ask for it.
     function fetchGame() {
-        var script = document.createElement("script");
-        script.type = "module";
-        script.src = game;
+        add(document.head, "link", { rel: "modulepreload", href: game });
+        for (var i = 0; i < needs.length; ++i) add(document.head, "link", { rel: "preload", as: "fetch", crossorigin: "", href: needs[i] });
+        // By the second frame the first one, with the title in it, is on the screen.
+        requestAnimationFrame(function () { requestAnimationFrame(runGame); });
+    }
+
+    function runGame() {
+        var script = add(document.body, "script", { type: "module", src: game });
         script.onload = script.onerror = checkStart;
-        document.body.appendChild(script);
     }
 
     function askForGame() {
         if (asked) return;
         asked = true;
         if (isOld()) show("old");
-        else if (!game) checkStart();  // it came with the page
-        // By the second frame the first one, with the title in it, is on the screen.
-        else requestAnimationFrame(function () { requestAnimationFrame(fetchGame); });
+        else if (game) fetchGame();
+        else checkStart();  // it came with the page
     }
 
-    // The title asks for Enter before the game can hear it.
+    // The player may press Enter at the title before the game is there to hear it. One that is held repeats, and was meant for something
+    // else: the address bar, say.
     function noteEnter(event) {
-        if (event.key === "Enter") enterPressed = true;
+        if (event.key === "Enter" && !event.repeat) enterPressed = true;
     }
 
     window.addEventListener("keydown", noteEnter);

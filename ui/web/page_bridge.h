@@ -1,8 +1,10 @@
-// The page as C++ sees it: what it shows, and the events that come from it. Forms and controls go by their places in `Windows::All` and
-// `Form::Controls`. This header's .cpp is the only one that speaks JavaScript.
+// The border between C++ and the page's JavaScript: what the page shows, and the events that come from it. Forms and controls go by their
+// places in `Windows::All` and `Form::Controls`. This header's .cpp is the only one that speaks JavaScript.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,20 +17,20 @@ struct Place {
 };
 
 // The numbers are known to page/event_queue.mjs.
-enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge, FilesChanged };
+enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge, FilesChanged, Resume };
 
 struct Event {
     EventKind Kind;
     Place Target;
     int Number;          // the key, or the entry's index
     std::string Before;  // of an edit: the text as far as the caret
-    std::string After;   // and behind it
+    std::string After;   // and the text behind the caret
 };
 
-// Sleeps until the player does something. Besides the keeping of a saved game, the only place where the page gets its turn.
+// Waits until the player does something. The page's own scripts run only here and while a saved game is being kept.
 Event WaitForEvent();
 
-// Whether the key that was last announced is to leave no trace in its box.
+// Answers the last key event: whether the box is not to show the key's character.
 void AnswerKey(bool swallowed);
 
 // `layouts` is JSON, from DescribeLayouts.
@@ -44,19 +46,23 @@ void ShowFocus(Place place);
 void ShowBusyPointer(bool busy);
 void OpenMessageBox(std::string_view text, std::string_view title);
 void CloseMessageBox();
+// In a line of the page outside of the windows.
+void ShowNotice(std::string_view sentence);
 void SayTheEnd();
-// That there is no game, since its story cannot be read, and what can be done.
+// Shows that the file of the story cannot be read, and what the player can do.
 void SayTheStoryIsDamaged();
 
 // Lines as the output box displays them, wrapped ones counted each.
 std::size_t CountOutputLines(Place place);
-// Whether the text looks and runs as Arial does.
+// Whether the page has Arial or a font with the same metrics.
 bool HasArial();
 
-// Lets the page ask the exported functions about the running game until SayTheEnd. It hands the address back to them and knows no more.
+// Gives the page the address of the running game, which it passes to the exported functions of app/web.cpp until SayTheEnd.
 void OfferGame(const void* game);
 // The answer to a question about a file: a number that page/incoming_files.mjs knows, and a name.
 void AnswerInspection(int finding, std::string_view name);
+// The snapshot that the page has asked for; empty when the game cannot be resumed from here.
+void AnswerSnapshot(std::span<const std::uint8_t> snapshot);
 
 // The browser's own random numbers in [0, 1).
 double Random();

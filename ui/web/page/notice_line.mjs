@@ -1,0 +1,43 @@
+// The page's own line, outside of the game's windows: sentences that stand there for as long as they are true, each about a topic of its own,
+// and one that passes with the player's next command.
+
+function newSentence(id) {
+    const sentence = Object.assign(document.createElement("p"), { id });
+    sentence.setAttribute("role", "status");
+    return sentence;
+}
+
+export class NoticeLine {
+    element = document.createElement("div");
+    #passing = newSentence("passing-notice");
+    #standing = new Map();  // by topic the sentence with its buttons
+
+    constructor() {
+        this.element.id = "notice-line";
+        this.element.append(this.#passing);
+    }
+
+    say(sentence) {
+        this.#passing.textContent = sentence;
+    }
+
+    // Takes away what was said to pass.
+    pass() {
+        if (this.#passing.textContent !== "") this.say("");
+    }
+
+    // An empty sentence takes the last one about its topic away; the buttons stand behind it.
+    stand(topic, sentence, ...buttons) {
+        if (!this.#standing.has(topic)) {
+            this.#standing.set(topic, [newSentence(`${topic}-notice`)]);
+            this.#passing.before(...this.#standing.get(topic));
+        }
+        const [shown, ...former] = this.#standing.get(topic);
+        if (shown.textContent === sentence) return;
+        shown.textContent = sentence;
+        former.forEach((button) => button.remove());
+        shown.after(...buttons);
+        this.#standing.set(topic, [shown, ...buttons]);
+        this.element.classList.toggle("telling", [...this.#standing.values()].some(([each]) => each.textContent !== ""));
+    }
+}
