@@ -9,8 +9,8 @@ void ResumeGame(Game& game, std::span<const std::uint8_t> snapshot, const std::f
     if (game.state.GameStage != GameStage::Title || !IsSnapshot(game, snapshot)) return;
     const bool panelWasOpen = RestoreSnapshot(game, snapshot);
     if (!panelWasOpen) return;
-    // A panel stays open for as long as the command runs that opened it, and that command still stands in the state. So it is run again;
-    // what it does anew on the way is undone by the second restoring.
+    // A panel is open only while the command runs that opened it. The snapshot's state still holds that command, so it is run again to open
+    // the panel. The command repeats its effects on the way, and restoring a second time undoes them.
     beforeNextEvent([&game, bytes = Bytes(snapshot.begin(), snapshot.end())] {
         RestoreSnapshot(game, bytes);
         RenewSystemPanel(game);

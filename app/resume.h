@@ -7,6 +7,7 @@
 
 #include "core/game.h"
 
-// From the title; later, and with bytes that are no snapshot, nothing happens. A panel that was open opens again and returns when it is
-// closed, as it did; what is given to `beforeNextEvent` must be run before the next event, in the panel or behind it.
+// Does nothing when the game has left its title, or when the bytes are no snapshot. If a panel was open in the snapshot, it opens again,
+// and this function returns only when the player has closed it. It therefore hands the last step of the restoring to `beforeNextEvent`,
+// which must run that step before the player's next event.
 void ResumeGame(Game& game, std::span<const std::uint8_t> snapshot, const std::function<void(std::function<void()>)>& beforeNextEvent);

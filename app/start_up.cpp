@@ -21,7 +21,7 @@ void ConnectWindows(Game& game) {
     ConnectForm2(game);
     ConnectForm3(game);
     ConnectForm4(game);
-    // Because a click on the backdrop is to lead back to the game.
+    // A click on the backdrop leads back to the game.
     game.windows.Form5.Window.GotFocus = [&game] { ui::GiveFocus(game.windows, game.windows.Form1.Window); };
 }
 

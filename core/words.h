@@ -21,7 +21,7 @@ public:
     std::int16_t Take();
     std::size_t TakeLength();  // a count of words that follow; refuses one that the rest of the file cannot hold
 
-    // Takes as many characters, each stored as its code in Windows-1250 plus the key.
+    // Takes `length` characters, each stored as its code in Windows-1250 plus the key.
     std::string TakeText(std::size_t length, std::int16_t key);
 
     // Says that the file is damaged.

@@ -11,7 +11,7 @@
 
 namespace {
 
-// To be raised when the bytes below get another meaning.
+// Part of the sum. Raise it when this file writes the bytes otherwise.
 constexpr std::uint64_t Version = 1;
 
 constexpr std::size_t SumBytes = 8;
@@ -40,8 +40,8 @@ private:
     std::uint64_t sum = 0xCBF29CE484222325;
 };
 
-// Of the content, and of all that it takes to understand it: the names and the order of what the state and the windows are made of, and
-// the texts. Whoever changes one of these has snapshots refused without having to think of them.
+// The sum is over the content and over everything that gives the content its meaning: the flags, things, windows and controls by name and
+// order, and the texts. So a program in which one of these has changed refuses the snapshots of the program before it.
 std::array<std::uint8_t, SumBytes> SumOf(const Game& game, std::span<const std::uint8_t> content) {
     Sum sum;
     sum.AddByte(Version);
@@ -75,7 +75,7 @@ public:
     Bytes bytes;
 };
 
-// What it reads was written by the same version, as the sum has shown.
+// Checks nothing, because it reads only bytes that a program of the same version wrote: their sum has been compared.
 class Reader {
 public:
     explicit Reader(std::span<const std::uint8_t> content) : rest(content) {}
@@ -174,7 +174,7 @@ void Take(Reader& reader, ui::Label& label) {
     label.SetTextColour({static_cast<std::uint8_t>(red), static_cast<std::uint8_t>(green), static_cast<std::uint8_t>(blue)});
 }
 
-// Labels come last, because a box that changes lights the lamp of its window.
+// Labels come last, because restoring a box raises its change event, and that lights the lamp of its window.
 void ForEachControl(const ui::Windows& windows, const std::function<void(const ui::Control&)>& act) {
     for (const bool labels : {false, true}) {
         for (const ui::Form* form : windows.All) {
@@ -186,7 +186,7 @@ void ForEachControl(const ui::Windows& windows, const std::function<void(const u
 }
 
 bool IsPanelOpen(const ui::Windows& windows) {
-    return windows.Form2.Window.Visible || windows.Form3.Window.Visible || windows.Form4.Window.Visible;
+    return std::ranges::any_of(windows.All, [](const ui::Form* form) { return form->Layout.IsPanel() && form->Visible; });
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// A running game as bytes, to be gone on with where it was interrupted: the whole state, and what the windows show that the state does not
-// give. Saved games hold less, but outlive the version; a snapshot is read by the same program with the same texts alone.
+// A running game as bytes, from which an interrupted game goes on: the whole state, and what the windows show beyond the state. A snapshot
+// holds more than a saved game, but only a program of the same version with the same texts can read it.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +9,12 @@
 #include "core/game.h"
 #include "core/words.h"
 
-// Nothing while there is no game to go on with: before it has begun, and once the hero is dead or home.
+// Nothing before the game proper has begun, and nothing once the story has ended.
 std::optional<Bytes> TakeSnapshot(const Game& game);
 
 // Whether the bytes are whole and a snapshot of this version.
 bool IsSnapshot(const Game& game, std::span<const std::uint8_t> bytes);
 
-// Brings the state and the contents of all windows to what they were; which windows are shown stays as it is. True when a panel was open
-// then. `bytes` must be a snapshot.
+// Gives the state and the contents of all windows back; shows and hides no window. True when a panel was open when the snapshot was taken.
+// `bytes` must be a snapshot.
 bool RestoreSnapshot(Game& game, std::span<const std::uint8_t> bytes);

@@ -26,7 +26,8 @@ std::string Called(const std::string& name) {
     return name.empty() ? "Pozice bez názvu" : "Pozice „" + name + "“";
 }
 
-// The panel says nothing of a name that it refuses, nor of success. A save or load that fails throws, and so the panel stays open.
+// The panel itself tells neither that it refuses a name nor that a save or load succeeded; only desktops with a place for notices do. A
+// save or load that fails throws, and so the panel stays open.
 void ReadCom(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     const std::string name = panel.Text1.Text();

@@ -14,5 +14,5 @@ bool CanNameSave(std::string_view name);
 // When the saved games cannot be listed, a message box says why and the list stays empty.
 void OpenSystemPanel(Game& game);
 
-// Lists the saved games anew if the panel is open. For a desktop where files come and go meanwhile. What is typed stays.
+// Lists the saved games anew if the panel is open, for a desktop where files come and go while it is. What the player has typed stays.
 void RenewSystemPanel(Game& game);

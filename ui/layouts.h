@@ -69,6 +69,9 @@ struct FormLayout {
     bool Framed = false;                        // with a frame, a title bar and a close box
     bool Backdrop = false;                      // covers the whole screen behind the other windows
     std::span<const ControlLayout> Controls{};  // in tab order
+
+    // A panel opens above the main window, as a step of the command that runs there.
+    bool IsPanel() const { return !Framed && !Backdrop; }
 };
 
 extern const FormLayout Form1Layout, Form2Layout, Form3Layout, Form4Layout, Form5Layout;

@@ -104,8 +104,7 @@ void QtDesktop::Mirror() {
         const Form& form = *windows.All[place];
         if (!forms[place] && !form.Visible) continue;
         if (form.Layout.Backdrop && !CanStackWindows()) continue;
-        const bool panel = !form.Layout.Framed && !form.Layout.Backdrop;
-        WidgetOf(form).Mirror(openBox == nullptr && !entry.IsShut(form), panel ? &WidgetOf(windows.Form1.Window) : nullptr);
+        WidgetOf(form).Mirror(openBox == nullptr && !entry.IsShut(form), form.Layout.IsPanel() ? &WidgetOf(windows.Form1.Window) : nullptr);
     }
     MirrorPointer();
     if (windows.Active != nullptr && windows.Active->Visible) WidgetOf(*windows.Active).MirrorFocus();
