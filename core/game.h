@@ -24,3 +24,8 @@ struct Game {
     TextStore texts;
     GameState state;
 };
+
+// A whole number from 0 to below `bound`, drawn by lot.
+inline int Draw(const Game& game, int bound) {
+    return static_cast<int>(game.random() * bound);
+}

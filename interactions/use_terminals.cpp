@@ -12,11 +12,6 @@ constexpr int DoorCodeLength = 7;
 constexpr int DoorCodeDigits = 9;  // 0 to 8
 constexpr int EmergencyDestinations = 3;
 
-// A whole number from 0 to below `bound`.
-int Draw(const Game& game, int bound) {
-    return static_cast<int>(game.random() * bound);
-}
-
 void EraseDoorCode(Game& game) {
     enum : TextNumber { CodeErased = 211 };
     Tell(game, CodeErased);

@@ -111,9 +111,8 @@ bool Holds(const fs::path& file, const Bytes& contents, const GameState& current
     }
 }
 
-// A whole number from 0 to 99.
-std::int16_t DrawKey(Game& game) {
-    return static_cast<std::int16_t>(game.random() * 100);
+std::int16_t DrawKey(const Game& game) {
+    return static_cast<std::int16_t>(Draw(game, 100));
 }
 
 }  // namespace
