@@ -24,7 +24,7 @@ public:
     const std::filesystem::path Path;
 };
 
-// The desktop tells an exception that nobody has foreseen as a message and plays on; a test must not.
+// Fails the test when a message box has told an exception that nobody foresaw. The desktop itself tells it and plays on.
 void ExpectNoFaults(ui::MemoryDesktop& desktop);
 
 class Play {

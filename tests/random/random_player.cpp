@@ -14,6 +14,7 @@ using namespace std::string_view_literals;
 // How often each verb is chosen, in the order of the verb list.
 constexpr std::array VerbWeights{220, 140, 260, 110, 40, 110, 20, 110, 5, 6, 6, 2, 1};
 constexpr int AllVerbWeights = 1030;
+static_assert(VerbWeights.size() == verb::Names.size());
 
 constexpr std::array Phrases{"mj-perolax"sv,
                              "read message"sv,

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every story text is told in some walkthrough; none is a double, and none is too short or too long to be one.
+"""Checks that some walkthrough tells each story text, that no text stands twice, and that none is shorter or longer than players like.
 
     told.py TEXTS TRANSCRIPT...
 """
