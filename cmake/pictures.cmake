@@ -2,8 +2,8 @@
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 find_program(PNGQUANT pngquant REQUIRED)
 
-# Pictures are drawn at twice their window's size, so that they stay sharp on dense screens, and with a palette, because the game reads them
-# sooner so. The game knows them by names without an extension.
+# Pictures are drawn at twice their window's size, so that they stay sharp on dense screens, and with a palette, because the game reads
+# such pictures faster. The game knows them by names without an extension.
 function(orvel_picture name width height)
     math(EXPR width "2 * ${width}")
     math(EXPR height "2 * ${height}")

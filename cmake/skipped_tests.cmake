@@ -1,5 +1,5 @@
-# orvel_skip_without(TEST VARIABLE...): a test is not run where one of the variables is false, as that of a program that was not found is.
-# ctest tells which were disabled so, and ./check counts them.
+# orvel_skip_without(TEST VARIABLE...): disables the test where one of the variables is false, as the variable of find_program is when the
+# program was not found. ctest lists disabled tests, and ./check counts them as skipped.
 function(orvel_skip_without test)
     foreach(program ${ARGN})
         if(NOT ${program})

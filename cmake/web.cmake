@@ -10,9 +10,10 @@ endfunction()
 
 orvel_node_program(pack_texts)
 orvel_node_program(replay)
-# Compiled without exceptions, because the report throws none, and with them each call that might throw one takes a detour through JavaScript.
+# The report of the headless player throws no exceptions. It is compiled without them, because with them the compiler leads each call that
+# might throw through JavaScript, which is slow.
 set_source_files_properties(app/replay_report.cpp PROPERTIES COMPILE_OPTIONS -fno-exceptions)
-# A shell script starts the compiled player in node, so that tests start it as they start the native one.
+# A shell script starts the compiled headless player in node, so that tests can start it like the native one.
 set(headless_player ${PROJECT_BINARY_DIR}/replay)
 file(CONFIGURE OUTPUT ${headless_player} NEWLINE_STYLE UNIX @ONLY CONTENT [[#!/bin/sh
 exec "@CMAKE_CROSSCOMPILING_EMULATOR@" "$(dirname "$0")/replay.js" "$@"

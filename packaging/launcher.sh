@@ -1,6 +1,6 @@
 #!/bin/sh
-# The game keeps its saves in its own program folder. Installed for everybody, that folder is each player's own: the parts that are only
-# read are links to the installed ones.
+# The game keeps its saves in its program folder. The installed program folder cannot be written to, so this script makes one for each player,
+# with links to the installed parts that are only read.
 
 installed=/usr/lib/games/orvel-tavoren
 own=${XDG_DATA_HOME:-$HOME/.local/share}/orvel-tavoren

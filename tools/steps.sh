@@ -5,7 +5,7 @@ log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 
 # step TITLE COMMAND...: says what it does in one line; the command's output shows only when it fails, and then nothing follows.
-# Bash forgets `set -e` inside COMMAND where that is a function: its commands are joined by &&.
+# When COMMAND is a function, its commands must be joined by &&, because bash ignores `set -e` inside of it.
 step() {
     echo "$1"
     if ! "${@:2}" >"$log" 2>&1 </dev/null; then
@@ -50,7 +50,8 @@ install_packages() {
 name_for_apt() {
     local name
     for name in ${1//|/ }; do
-        # Not `grep -q`: it leaves at the first match, apt-cache then dies of a closed pipe, and pipefail makes that "no such package".
+        # Not `grep -q`, because it ends at the first match, apt-cache then fails on the closed pipe, and pipefail makes of that failure
+        # "no such package".
         if LC_ALL=C apt-cache policy "$name" 2>/dev/null | grep 'Candidate: [^(]' >/dev/null; then
             echo "$name"
             return
@@ -59,15 +60,15 @@ name_for_apt() {
     return 1
 }
 
-# need PACKAGE...: installs those Debian packages that are missing. A|B is whichever of them this release has. What it has under no name is
-# told and left out: what wants it is skipped later, or says so.
+# need PACKAGE...: installs those Debian packages that are missing. A|B is whichever of the two this release has. A package that this
+# release does not have is reported and left out; a test that needs it is skipped later.
 need() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         tell_what_is_needed "$@"
         return
     fi
     local installed package name missing=() absent=()
-    # It fails where it has never heard of one of them, which is no failure here.
+    # dpkg-query fails when it has never heard of one of the packages, which only means that this one is missing.
     # shellcheck disable=SC2068,SC2086  # one word a package
     installed=" $({ dpkg-query -W -f '${db:Status-Status} ${Package}\n' ${@//|/ } 2>/dev/null || true; } | sed -n 's/^installed //p' | tr '\n' ' ')"
     for package; do
@@ -77,7 +78,7 @@ need() {
         missing+=("$package")
     done
     [ ${#missing[@]} = 0 ] && return
-    if ! LC_ALL=C apt-cache policy | grep ' Packages$' >/dev/null; then  # a fresh system knows only what it has installed
+    if ! LC_ALL=C apt-cache policy | grep ' Packages$' >/dev/null; then  # because a fresh system has no lists of packages yet
         can_install "${missing[@]}"
         step "Asking which packages there are" as_root apt-get update
     fi
@@ -98,7 +99,7 @@ can_install() {
     fi
 }
 
-# What the packages bring, by the names that the rest of the world has for it: a program that is looked for, or a library.
+# For a system without apt: the programs and libraries in these packages, by the names that every system has for them.
 brings() {
     case "$1" in
         g++) echo "program c++ (a C++20 compiler, as GCC 12)" ;;

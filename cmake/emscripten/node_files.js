@@ -1,4 +1,4 @@
-// In emscripten's file system over node, fsync does nothing. A saved game must be on the disk when the program says so, hence this fsync.
+// Emscripten's own fsync does nothing in node. This one flushes the file, because a saved game must be on the disk when the program says so.
 mergeInto(LibraryManager.library, {
   fd_sync__deps: ['$SYSCALLS', '$ERRNO_CODES'],
   fd_sync: function (fd) {
