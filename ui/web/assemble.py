@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Makes of the page's parts what players get: a site for a web server, or one file with everything in it.
+"""Puts the page's parts together, either as a site for a web server or as one file with everything in it.
 
     assemble.py site SITE FOLDER NAME...
     assemble.py file FILE FOLDER NAME...
 
 The parts are the files of those names in the folder.
 
-The site has in its root what browsers ask for by a name that stays, and all other parts in a folder named after what is in them. So no page
-ever gets files of two versions.
+In the root of the site lie only the parts that browsers ask for by the same name in every version. All others lie in a folder that is named
+after their contents, so that a page of one version never gets the files of another.
 """
 import base64
 import gzip
@@ -20,8 +20,9 @@ import sys
 
 NOT_IN_THE_SITE = ("style.css", "loader.js", "one_file.js")  # the first two stand in the page itself
 STAYS = re.compile(r"index\.html|worker\.js|manifest\.webmanifest|icon-.*\.png")
-# Fetched when a player installs the page; it starts without them.
-NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")  # the browser looks at the smaller icon on every visit
+# Not kept for play without a network: a browser fetches the large icons only to install the page. The smaller icon is kept, because the
+# browser asks for it on every visit.
+NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")
 NEEDED_AT_THE_START = ("engine.wasm", "texs.dat")
 FORMATS = {".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2"}
 
@@ -47,7 +48,7 @@ def with_style(page, style):
 
 
 def with_loader(page, script, data):
-    """The loader stands in the page too, because all else waits for it; `data` are the attributes that say what it fetches."""
+    """The loader stands in the page too, because the whole game waits for it; `data` are the attributes that say what it fetches."""
     page = replace_once(page, "script-src ", f"script-src '{sha256(script.encode())}' ")
     return replace_once(page, '<script src="loader.js"></script>', f"<script{data}>{script}</script>")
 
@@ -68,7 +69,7 @@ def with_addresses(page, parts, version):
 
 def make_site(parts, site):
     everything = b"".join(name.encode() + b"\0" + hashlib.sha256(data).digest() for name, data in parts.items())
-    everything += pathlib.Path(__file__).read_bytes()  # another way to put them together is another version
+    everything += pathlib.Path(__file__).read_bytes()  # because a change of this script is a new version too
     version = hashlib.sha256(everything).hexdigest()[:12]
     served = {name: data for name, data in parts.items() if name not in NOT_IN_THE_SITE}
     files = {name if STAYS.fullmatch(name) else f"{version}/{name}": data for name, data in served.items()}
@@ -89,7 +90,7 @@ def data_address(name, data):
 
 
 def data_element(name, data):
-    """A picture goes as it is; what a script reads is packed."""
+    """A picture is left as it is, because its format is packed already; the files that scripts read are packed with gzip."""
     content = data if name.endswith(".webp") else gzip.compress(data, mtime=0)
     return f'<script type="text/plain" id="file:{name}">{base64.b64encode(content).decode()}</script>'
 

@@ -1,5 +1,5 @@
-// fsync sleeps until the page has kept the file. Emscripten's own never reports an error: it wakes the program with a function in the
-// place of the error's number, which C++ takes for 0.
+// This fsync lets the program sleep until the page has kept the file. Emscripten's own fsync never reports an error, because it wakes the
+// program with a function in place of the error's number, which C++ takes for 0.
 mergeInto(LibraryManager.library, {
   fd_sync__deps: ['$SYSCALLS'],
   fd_sync: function (fd) {

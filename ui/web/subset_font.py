@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the page's face: the characters of Windows-1250 out of a font file, renamed, as WOFF2."""
+"""Makes the page's font out of a font file: the characters of Windows-1250 alone, under another name, as WOFF2."""
 
 import sys
 
