@@ -99,6 +99,10 @@ can_install() {
     fi
 }
 
+# The package of the page's compiler, unless an emsdk is in the environment.
+emscripten=emscripten
+[ -z "${EMSDK:-}" ] || emscripten=
+
 # For a system without apt: the programs and libraries in these packages, by the names that every system has for them.
 brings() {
     case "$1" in

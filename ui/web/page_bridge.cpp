@@ -4,12 +4,14 @@
 
 #include <cstdlib>
 
+// In event_text.js; from malloc.
+extern "C" char* page_event_text(int field);
+
 // The linter and the formatter would take this JavaScript for C++.
 // clang-format off
 // NOLINTBEGIN
 EM_ASYNC_JS(void, page_wait, (), { await Module.desktop.waitForEvent(); })
 EM_JS(int, page_event_number, (int field), { return Module.desktop.eventNumber(field); })
-EM_JS(char*, page_event_text, (int field), { return allocateUTF8(Module.desktop.eventText(field)); })
 EM_JS(void, page_answer_key, (int swallowed), { Module.desktop.answerKey(swallowed !== 0); })
 EM_JS(void, page_build, (const char* layouts, int size), { Module.desktop.build(JSON.parse(UTF8ToString(layouts, size))); })
 EM_JS(void, page_show_form, (int form, int visible, int reachable, const char* picture, int size), {
