@@ -16,7 +16,7 @@ constexpr auto Folders = std::to_array<std::string_view>({
     "vytěžení a značí se jím nouzové východy. Z feridu se dělají lana jeřábů a v lepších domácnostech i příbory. "
     "Nejvzácnější je však rezonit, krystal nacházený na měsících bez ovzduší. Zasáhne-li jej iontový impuls, rozezní se a "
     "svůj tón vnutí každému tuhému tělesu, ke kterému je připevněn, dokud se toto těleso nerozpadne na prach. Sám krystal "
-    "přitom zůstane bez vady, lze jej použít znovu a vydrží věky. Zbraň založená na tomto jevu, takzvaná seismická bomba, "
+    "přitom zůstane bez vady a na první impuls vydrží čekat věky. Zbraň založená na tomto jevu, takzvaná seismická bomba, "
     "existuje pouze v teorii. Podle výpočtů by účinkovala, jen kdyby ji někdo pevně upnul k nejtužší části stavby, a čím by "
     "stavba byla větší a tužší, tím hůř by dopadla. Ve vakuu, kde by se ničeho nedotýkala, by byla neškodná a otřásla by "
     "leda sebou. Natažená roznětka by se už nedala odjistit. Žádná armáda takovou zbraň nevlastní, což všechny armády "
