@@ -7,15 +7,14 @@
 import { readFileSync, statSync } from "node:fs";
 import { mkdtemp, rm } from "node:fs/promises";
 import http from "node:http";
-import { createRequire } from "node:module";
 import { tmpdir } from "node:os";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
 import { gzipSync } from "node:zlib";
-import { programOrSkip } from "../../tests/web/programs.mjs";
+import { launch } from "../../tests/web/browser.mjs";
+import { Player } from "../../tests/web/player.mjs";
 
 const Root = fileURLToPath(new URL("../../", import.meta.url));
-const puppeteer = createRequire(`${Root}tests/web/`)("puppeteer-core").default;
 const Site = path.resolve(process.argv[2] ?? `${Root}build/web/site`);
 const SingleFile = path.join(Site, "../orvel-tavoren.html");
 const Bare = `${Root}bench/web/bare`;
@@ -24,8 +23,6 @@ const Clicks = 20;
 const Lines = [10, 1930];  // in the box when its answers begin to be timed; past 2,000 the game empties it
 const MiB = 1024 * 1024;
 const Types = { ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".wasm": "application/wasm" };
-const Flags = ["--headless=new", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
-    "--disable-component-update", "--disable-sync"];
 
 const pause = (milliseconds) => new Promise((over) => { setTimeout(over, milliseconds); });
 const median = (figures) => figures.toSorted((a, b) => a - b)[figures.length >> 1];
@@ -107,33 +104,6 @@ async function measureStarts(browser, game, bare) {
     row("navigation to a game that hears keys", ...cells(ready));
 }
 
-async function rowOf(page, list, entry) {
-    const rows = await page.$$(`[id="${list}"] [role=option]`);
-    const texts = await page.$$eval(`[id="${list}"] [role=option]`, (options) => options.map((option) => option.textContent));
-    const found = rows[texts.indexOf(entry)] ?? rows[Number(entry)];
-    if (found === undefined) throw new Error(`${list} has no entry ${entry}`);
-    return found;
-}
-
-async function clickEntry(page, list, entry) {
-    const target = await rowOf(page, list, entry);
-    await target.evaluate((element) => element.scrollIntoView({ block: "nearest" }));
-    const { x, y, height } = await target.boundingBox();
-    await page.mouse.click(x + 9, y + height / 2);
-}
-
-// Plays a script of the headless player with mouse and keys; what only looks on is left out.
-async function play(page, script) {
-    for (const line of script.split("\n")) {
-        const [what, target, ...rest] = line.split(" ");
-        if (what === "click" && rest.length > 0) await clickEntry(page, target, rest.join(" "));
-        else if (what === "click") await page.click(`[id="${target}"]`);
-        else if (what === "key") await page.keyboard.press(rest[0]);
-        else if (what === "type") await page.keyboard.type(rest.join(" "));
-        else if (what === "random") await page.evaluate((drawn) => { Math.random = () => drawn.shift() ?? 0.5; }, [target, ...rest].map(Number));
-    }
-}
-
 // Runs in the page: how long it takes from an event until what it brings stands in the page and is laid out.
 function timeEvents() {
     window.times = [];
@@ -176,8 +146,8 @@ async function fillBox(lines) {
 
 async function measureAnswers(browser, address) {
     const { page, context } = await openCold(browser, address, true);
-    await page.keyboard.press("Enter");
-    await page.keyboard.press("Enter");
+    const player = new Player(page);
+    await player.keys("Enter", "Enter");
     await page.evaluate(timeEvents);
     const answers = { click: [], enter: [] };
     for (const lines of Lines) {
@@ -185,8 +155,8 @@ async function measureAnswers(browser, address) {
         const click = [];
         const enter = [];
         for (let turn = 0; turn < Clicks; ++turn) {
-            click.push(await timed(page, () => clickEntry(page, "Form1.List2(0)", "Prozkoumej")));
-            await clickEntry(page, "Form1.List2(1)", "0");
+            click.push(await timed(page, () => player.click("Form1.List2(0)", "Prozkoumej")));
+            await player.click("Form1.List2(1)", "0");
             enter.push(await timed(page, () => page.keyboard.press("Enter")));
         }
         answers.click.push(median(click));
@@ -200,7 +170,9 @@ async function measureAnswers(browser, address) {
 
 async function measureMemory(browser, address) {
     const { page, context } = await openCold(browser, address, true);
-    await play(page, readFileSync(`${Root}tests/walkthroughs/winning_game.replay`, "utf8"));
+    const player = new Player(page);
+    const lines = readFileSync(`${Root}tests/walkthroughs/winning_game.replay`, "utf8").split("\n");
+    for (const line of lines.filter((each) => /^(click|key|type|random) /.test(each))) await player.play(line);
     await page.waitForFunction(() => document.getElementById("notice").textContent.startsWith("Hra skončila."));
     const client = await page.createCDPSession();
     await client.send("HeapProfiler.collectGarbage");
@@ -240,8 +212,7 @@ function reportSizes(fetched) {
 }
 
 const profile = await mkdtemp(path.join(tmpdir(), "orvel-bench-"));
-const browser = await puppeteer.launch({ executablePath: programOrSkip("chromium"), userDataDir: profile, args: Flags,
-    ignoreDefaultArgs: ["--hide-scrollbars"] });
+const browser = await launch("chromium", profile, path.join(profile, "downloads"));
 const [game, bare] = await Promise.all([serve(Site), serve(Bare)]);
 try {
     const { page, context } = await openCold(browser, game.address, true);

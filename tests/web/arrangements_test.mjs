@@ -2,27 +2,15 @@
 // has in place of a keyboard.
 //     arrangements_test.mjs SITE
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { Browser, findBarriers, findSmall, serve } from "./browser.mjs";
+import { test } from "node:test";
+import { findBarriers, findSmall } from "./browser.mjs";
 import { Player } from "./player.mjs";
+import { browser, chromiumAlone, inFirefox, patience, server, stageScenes } from "./scenes.mjs";
 
-const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
-const inFirefox = process.env.ORVEL_BROWSER === "firefox";  // its driver has neither fingers nor Chromium's protocol
-const chromiumAlone = { ...patience, skip: inFirefox };
 const fingers = inFirefox ? [] : [[390, 664], [320, 568], [667, 375], [820, 1180]];
 const mice = inFirefox ? [[640, 400]] : [[923, 692], [640, 400], [320, 256]];
 const Line = 20;  // the least height of a line of text, in pixels
-let server, browser;
-
-before(async () => {
-    server = await serve(process.argv[2]);
-    browser = await Browser.start();
-});
-after(async () => {
-    await browser.stop();
-    await server.stop();
-    assert.deepEqual(browser.complaints, []);
-});
+stageScenes(process.argv[2]);
 
 async function openGame(options) {
     const tab = await browser.open(server.address, options);

@@ -33,7 +33,8 @@ export async function serve(site, spoil = (name, bytes) => bytes) {
     };
 }
 
-async function launch(kind, profile, downloads, keepsNothing) {
+// A browser of puppeteer's, whose profile and downloads lie in those folders; one that keeps nothing refuses pages all storage.
+export async function launch(kind, profile, downloads, keepsNothing = false) {
     if (kind === "firefox") {
         return puppeteer.launch({
             browser: "firefox",

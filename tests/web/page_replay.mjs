@@ -9,20 +9,8 @@ const server = await serve(process.argv[2]);
 const browser = await Browser.start();
 const player = new Player(await browser.open(server.address));
 
-function play(event, target, rest) {
-    switch (event) {
-        case "click": return player.click(target, rest);
-        case "key": return player.key(target, rest);
-        case "type": return player.type(target, rest);
-        case "random": return player.queueRandom([target, ...rest.split(" ")].map(Number));
-        default: throw new Error("there is no such event");
-    }
-}
-
 async function answer(line) {
-    if (line === "show") return player.look();
-    const [event, target, ...rest] = line.split(" ");
-    return play(event, target, rest.join(" "));
+    return line === "show" ? player.look() : player.play(line);
 }
 
 for await (const line of createInterface({ input: process.stdin })) {

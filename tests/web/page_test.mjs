@@ -1,22 +1,12 @@
 // The page by keyboard alone, and what it offers to those who do not see it.
 //     page_test.mjs SITE
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { Browser, findBarriers, serve } from "./browser.mjs";
+import { test } from "node:test";
+import { findBarriers, serve } from "./browser.mjs";
 import { Player } from "./player.mjs";
+import { browser, patience, server, stageScenes } from "./scenes.mjs";
 
-const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
-let server, browser;
-
-before(async () => {
-    server = await serve(process.argv[2]);
-    browser = await Browser.start();
-});
-after(async () => {
-    await browser.stop();
-    await server.stop();
-    assert.deepEqual(browser.complaints, []);
-});
+stageScenes(process.argv[2]);
 
 const shown = async (player, form, control) => (await player.look()).forms[form].controls[control];
 const told = async (player) => (await shown(player, "Form1", "Text1")).text.split("\r\n").filter((line) => line !== "");

@@ -84,6 +84,19 @@ export class Player {
         await this.#tab.keyboard.type(text);
     }
 
+    // Carries out one event of the headless player's language.
+    play(line) {
+        const [event, target, ...words] = line.split(" ");
+        const rest = words.join(" ");
+        switch (event) {
+            case "click": return this.click(target, rest);
+            case "key": return this.key(target, rest);
+            case "type": return this.type(target, rest);
+            case "random": return this.queueRandom([target, ...words].map(Number));
+            default: throw new Error("there is no such event");
+        }
+    }
+
     // Chooses the verb and its things, and carries the sentence out.
     async command(verb, ...things) {
         await this.click("Form1.List2(0)", verb);

@@ -3,9 +3,9 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 import { Browser, serve } from "./browser.mjs";
+import { patience } from "./scenes.mjs";
 
 const site = process.argv[2];
-const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
 const half = (bytes) => bytes.subarray(0, bytes.length / 2);
 const nothing = () => null;
 const trouble = { shows: "#trouble:not([hidden])" };

@@ -2,24 +2,14 @@
 // a window as narrow as a phone.
 //     webkit_test.mjs SITE
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { findSmall, serve } from "./browser.mjs";
+import { test } from "node:test";
+import { findSmall } from "./browser.mjs";
 import { Player } from "./player.mjs";
+import { browser, patience, server, stageScenes } from "./scenes.mjs";
 import { WebKit } from "./webkit.mjs";
 
-const patience = { timeout: 120_000 };  // milliseconds; what never comes fails
 const phone = { width: 447, height: 844 };  // this browser makes its windows no narrower
-let server, browser;
-
-before(async () => {
-    server = await serve(process.argv[2]);
-    browser = await WebKit.start();
-});
-after(async () => {
-    await browser.stop();
-    await server.stop();
-    assert.deepEqual(browser.complaints, []);
-});
+stageScenes(process.argv[2], () => WebKit.start());
 
 test("a game is played, saved, found again by the next visit and played on", patience, async () => {
     const tab = await browser.open(server.address);
