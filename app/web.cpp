@@ -12,6 +12,16 @@
 
 namespace {
 
+std::string_view WordFor(Inspection::Finding finding) {
+    switch (finding) {
+        case Inspection::Finding::Sound: return "sound";
+        case Inspection::Finding::TooLong: return "too long";
+        case Inspection::Finding::NameRefused: return "name refused";
+        case Inspection::Finding::Damaged: break;
+    }
+    return "damaged";
+}
+
 // Where the page puts the snapshot of a game that was interrupted.
 Bytes InterruptedGame() {
     return ReadWholeFile("/interrupted", "Rozehranou hru se nepodařilo přečíst.");
@@ -30,7 +40,7 @@ void InspectIncoming() {
     } catch (const ui::GameError&) {
         // A file that cannot be read counts as damaged.
     }
-    ui::web::page::AnswerInspection(static_cast<int>(inspection.Found), inspection.Name);
+    ui::web::page::AnswerInspection(WordFor(inspection.Found), inspection.Name);
 }
 
 bool WouldLoseSteps(const Game* game) {

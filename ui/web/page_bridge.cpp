@@ -13,7 +13,9 @@ extern "C" char* page_event_text(int field);
 EM_ASYNC_JS(void, page_wait, (), { await Module.desktop.waitForEvent(); })
 EM_JS(int, page_event_number, (int field), { return Module.desktop.eventNumber(field); })
 EM_JS(void, page_answer_key, (int swallowed), { Module.desktop.answerKey(swallowed !== 0); })
-EM_JS(void, page_build, (const char* layouts, int size), { Module.desktop.build(JSON.parse(UTF8ToString(layouts, size))); })
+EM_JS(void, page_build, (const char* layouts, int size, const char* eventKinds, int kindsSize), {
+    Module.desktop.build(JSON.parse(UTF8ToString(layouts, size)), UTF8ToString(eventKinds, kindsSize).trim().split(" "));
+})
 EM_JS(void, page_show_form, (int form, int visible, int reachable, const char* picture, int size), {
     Module.desktop.showForm(form, visible !== 0, reachable !== 0, UTF8ToString(picture, size));
 })
@@ -47,8 +49,8 @@ EM_JS(void, page_say_the_story_is_damaged, (), { Module.desktop.sayTheStoryIsDam
 EM_JS(int, page_count_output_lines, (int form, int control), { return Module.desktop.control(form, control).countLines(); })
 EM_JS(int, page_has_arial, (), { return Module.desktop.hasArial ? 1 : 0; })
 EM_JS(void, page_offer_game, (const void* game), { Module.desktop.game = game; })
-EM_JS(void, page_answer_inspection, (int finding, const char* name, int size), {
-    Module.desktop.inspection = { finding, name: UTF8ToString(name, size) };
+EM_JS(void, page_answer_inspection, (const char* finding, int findingSize, const char* name, int size), {
+    Module.desktop.inspection = { finding: UTF8ToString(finding, findingSize), name: UTF8ToString(name, size) };
 })
 EM_JS(void, page_answer_snapshot, (const void* snapshot, int size), {
     Module.desktop.snapshot = size > 0 ? HEAPU8.slice(snapshot, snapshot + size) : null;
@@ -60,6 +62,12 @@ EM_JS(double, page_random, (), { return Math.random(); })
 namespace ui::web::page {
 
 namespace {
+
+constexpr std::string_view EventKinds =
+#define EVENT_KIND(Name) #Name " "
+#include "ui/web/event_kinds.def"
+#undef EVENT_KIND
+    ;
 
 int Size(std::string_view text) {
     return static_cast<int>(text.size());
@@ -93,7 +101,7 @@ void AnswerKey(bool swallowed) {
 }
 
 void Build(const std::string& layouts) {
-    page_build(layouts.data(), Size(layouts));
+    page_build(layouts.data(), Size(layouts), EventKinds.data(), Size(EventKinds));
 }
 
 void ShowForm(int form, bool visible, bool reachable, std::string_view picture) {
@@ -170,8 +178,8 @@ void OfferGame(const void* game) {
     page_offer_game(game);
 }
 
-void AnswerInspection(int finding, std::string_view name) {
-    page_answer_inspection(finding, name.data(), Size(name));
+void AnswerInspection(std::string_view finding, std::string_view name) {
+    page_answer_inspection(finding.data(), Size(finding), name.data(), Size(name));
 }
 
 void AnswerSnapshot(std::span<const std::uint8_t> snapshot) {

@@ -16,8 +16,11 @@ struct Place {
     int Form, Control;
 };
 
-// The numbers are known to page/event_queue.mjs.
-enum class EventKind { Focus, Key, Edit, ClickEntry, ClickLabel, Acknowledge, FilesChanged, Resume };
+enum class EventKind {
+#define EVENT_KIND(Name) Name,
+#include "ui/web/event_kinds.def"
+#undef EVENT_KIND
+};
 
 struct Event {
     EventKind Kind;
@@ -59,8 +62,8 @@ bool HasArial();
 
 // Gives the page the address of the running game, which it passes to the exported functions of app/web.cpp until SayTheEnd.
 void OfferGame(const void* game);
-// The answer to a question about a file: a number that page/incoming_files.mjs knows, and a name.
-void AnswerInspection(int finding, std::string_view name);
+// The answer to a question about a file: a word that page/incoming_files.mjs knows, and the name of the saved game in the file.
+void AnswerInspection(std::string_view finding, std::string_view name);
 // The snapshot that the page has asked for; empty when the game cannot be resumed from here.
 void AnswerSnapshot(std::span<const std::uint8_t> snapshot);
 

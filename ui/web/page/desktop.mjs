@@ -69,7 +69,8 @@ export class Desktop {
         this.keySwallowed = swallowed;
     }
 
-    build(layouts) {
+    build(layouts, eventKinds) {
+        eventKinds.forEach((name, number) => { EventKind[name] = number; });
         this.#forms = layouts.map((layout, form) => new FormWidget(layout, form, this));
         this.#stage.prepend(...this.#forms.map((form) => form.element));
         const framed = layouts.find((layout) => layout.framed);

@@ -1,8 +1,8 @@
-// What the player did, in order, until the program asks for it. It gets the next event in the same task that the browser reported it in,
-// so the answer is in the page before that task ends.
+// The player's events in their order, each of which waits here until the program asks for it. A program that already waits gets an event in
+// the same task in which the browser reports it, so that the answer is in the page before that task ends.
 
-// As in page_bridge.h.
-export const EventKind = { Focus: 0, Key: 1, Edit: 2, ClickEntry: 3, ClickLabel: 4, Acknowledge: 5, FilesChanged: 6, Resume: 7 };
+// The number of each kind of event by its name, which the program hands over when it builds the page: see ui/web/event_kinds.def.
+export const EventKind = {};
 
 export class EventQueue {
     #events = [];

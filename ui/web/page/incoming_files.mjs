@@ -2,8 +2,7 @@
 import { equalBytes } from "./bytes.mjs";
 import { inTime } from "./deadline.mjs";
 
-const Findings = ["sound", "damaged", "too long", "name refused"];  // as in saves/save_inspection.h
-// Read of a file. More than any saved game has: the program refuses as too long what is even shorter than this.
+// No more of a file is read than this. It is more than any saved game has, so the program sees of a longer file that it is too long.
 const EnoughBytes = 2 ** 22;
 const Incoming = "/incoming";
 
@@ -11,8 +10,7 @@ function inspect(engine, bytes) {
     engine.FS.writeFile(Incoming, bytes);
     engine._InspectIncoming();
     engine.FS.unlink(Incoming);
-    const { finding, name } = engine.desktop.inspection;
-    return { finding: Findings[finding], name };
+    return engine.desktop.inspection;
 }
 
 export class IncomingFiles {
@@ -36,7 +34,7 @@ export class IncomingFiles {
             return `Soubor „${file.name}“ se nepodařilo přečíst.`;
         }
         const { finding, name } = inspect(this.#engine, bytes);
-        switch (finding) {
+        switch (finding) {  // by the words of app/web.cpp
             case "sound": return this.#takeSound(file, name, bytes);
             case "too long": return `Soubor „${file.name}“ je na uloženou pozici příliš dlouhý.`;
             case "name refused": return `Pozice v souboru „${file.name}“ se uvnitř jmenuje „${name}“ a takový název hra nepřijme.`;
