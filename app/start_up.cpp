@@ -39,7 +39,8 @@ ui::RoundRegion RegionWithoutFrame(const ui::FormLayout& layout) {
 
 void DressWindows(ui::Windows& windows, const std::filesystem::path& pictures) {
     windows.Form1.Window.Region = RegionWithoutFrame(windows.Form1.Window.Layout);
-    for (ui::Form* form : {&windows.Form2.Window, &windows.Form1.Window, &windows.Form3.Window, &windows.Form4.Window}) {
+    for (ui::Form* form : windows.All) {
+        if (form->Layout.Backdrop) continue;
         form->AlwaysOnTop = true;
         form->Icon = pictures / "icon";
     }

@@ -26,8 +26,8 @@ std::string Called(const std::string& name) {
     return name.empty() ? "Pozice bez názvu" : "Pozice „" + name + "“";
 }
 
-// The panel itself tells neither that it refuses a name nor that a save or load succeeded; only desktops with a place for notices do. A
-// save or load that fails throws, and so the panel stays open.
+// Saves or loads under the typed name, or leaves the panel when that is "exit". The panel itself tells neither that it refuses a name nor
+// that a save or load succeeded; only desktops with a place for notices do. A save or load that fails throws, and so the panel stays open.
 void ReadCom(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     const std::string name = panel.Text1.Text();
