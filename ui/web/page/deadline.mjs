@@ -1,8 +1,8 @@
-// An end for waits on the browser: what it never answers must not stop the game.
+// Ends a wait for the browser, because a question that the browser never answers must not stop the game.
 
 export const Patience = 5000;  // milliseconds
 
-// Settles as the promise does, or rejects with a TimeoutError when that takes longer.
+// Settles as the promise does, but rejects with a TimeoutError when the promise takes longer than the patience lasts.
 export function inTime(promise, patience = Patience) {
     let timer;
     const late = new Promise((_, reject) => {

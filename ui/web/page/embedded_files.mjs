@@ -1,4 +1,4 @@
-// Where the files of the page in one file come from: elements of the page, in base64. All but pictures were packed with gzip before.
+// Gets the game's files in the page that is one file: its elements hold them in base64, pictures as they are and all others packed with gzip.
 import { Trouble } from "./trouble.mjs";
 
 export function damagedFile(name, cause) {
@@ -27,5 +27,5 @@ export async function fetchPicture(name) {
     return `data:image/webp;base64,${contentOf(`pics/${name}.webp`)}`;
 }
 
-// It is all there.
+// Does nothing, because the page has all files in itself.
 export function keepForOffline() {}

@@ -1,4 +1,4 @@
-// Where the site's files come from: the folder that this script is in.
+// Gets the game's files in the site: fetches them from the folder that this script came from.
 import { Trouble } from "./trouble.mjs";
 
 function addressOf(name) {
@@ -27,24 +27,24 @@ export async function fetchBytes(name) {
     return new Uint8Array(await readAll(await fetchFile(name), name));
 }
 
-// Compiles while it arrives, where the server names the right type.
+// Compiles the program while it arrives if the server names its type, because browsers refuse to do so otherwise.
 export async function fetchProgram(name) {
     const response = await fetchFile(name);
     const streams = response.headers.get("content-type") === "application/wasm";
     const compiled = streams ? WebAssembly.compileStreaming(response) : WebAssembly.compile(await readAll(response, name));
-    // Browsers have many errors for a program that is not one, and these for a network that went.
+    // These two errors mean that the network was lost; every other one means that the file is no sound program.
     return compiled.catch((error) => {
         throw error instanceof TypeError || error instanceof DOMException ? trouble("unreachable", name, error) : damagedFile(name, error);
     });
 }
 
-// An address at which the picture stays: a server on which a newer version lies has this one's pictures no more.
+// The address of a copy in the page, because a server that has been given a newer version no longer has the pictures of this one.
 export async function fetchPicture(name) {
     const response = await fetchFile(`pics/${name}.webp`);
     return URL.createObjectURL(await response.blob());
 }
 
-// From the next visit on the page starts without a network, where the browser allows that.
+// Lets the page start without a network from the next visit on, if the browser allows that.
 export function keepForOffline() {
     navigator.serviceWorker?.register("worker.js").catch((error) => console.warn(error));
 }

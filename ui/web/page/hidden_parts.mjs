@@ -1,6 +1,6 @@
-// Marks a box that scrolls where a part of what it holds is hidden, so that the style can show a sign there.
+// Marks a box that scrolls with whether some of its content is hidden above or below, so that the style can show a sign there.
 
-// Waits for the next frame, because only then is the layout made anyway.
+// Measures in the next frame, because the browser makes the layout then in any case; measuring at once would make it twice.
 export function markHidden(box) {
     requestAnimationFrame(() => {
         const { scrollTop, clientHeight, scrollHeight } = box;

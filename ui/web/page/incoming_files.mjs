@@ -1,4 +1,4 @@
-// Takes files in among the saved games, once the program has found that a load will accept them.
+// Adds the player's files to the saved games if the program finds that it could load them.
 import { equalBytes } from "./bytes.mjs";
 import { inTime } from "./deadline.mjs";
 
@@ -25,7 +25,7 @@ export class IncomingFiles {
         this.#ask = ask;
     }
 
-    // What became of the file, in a sentence.
+    // Promises a sentence that says what became of the file.
     async take(file) {
         let bytes;
         try {
@@ -51,7 +51,8 @@ export class IncomingFiles {
         return kept ? `Pozice „${name}“ je přidaná.` : `Pozice „${name}“ je přidaná, ale jen do otevřené stránky: prohlížeč ji neuložil.`;
     }
 
-    // A file under another name would end the game when it is loaded.
+    // Asks the player if the file has been renamed or would replace a saved game. A renamed file gets the name that was saved in it, because
+    // loading it under any other name would end the game.
     async #mayTake(file, name, overwrites) {
         const fileName = file.name.normalize().replace(/\.tvx$/i, "");
         const renamed = fileName !== name;

@@ -1,4 +1,4 @@
-// A box of many lines that is only read. Its lines stand in chunks, so that new text makes the browser lay out the last chunk alone.
+// A read-only box of many lines. They stand in chunks, so that the browser lays out only the last chunk anew when text is added.
 import { EventKind } from "./event_queue.mjs";
 import { markHidden } from "./hidden_parts.mjs";
 
@@ -16,8 +16,8 @@ export class OutputView {
     #line = null;
     #news = "";
     #newest = null;  // the line where the news began
-    #follows = false;  // whether the newest words are kept in sight: until the player scrolls away from them
-    #shownFrom = 0;  // where they were last scrolled to
+    #follows = false;  // whether the box keeps its newest words in sight, which it does until the player scrolls away from them
+    #shownFrom = 0;  // to where the box was last scrolled to show them
 
     constructor(layout, place, desktop) {
         this.element = newElement("div", "output");
@@ -35,7 +35,7 @@ export class OutputView {
             this.#follows = Math.abs(scrollTop - this.#shownFrom) < 2 || scrollTop + clientHeight >= scrollHeight - 2;
             markHidden(this.element);
         });
-        // The last words stay in sight when a phone is turned, or when its keyboard takes a part of the page.
+        // The box becomes smaller when a phone is turned or shows its keyboard; its last words must stay in sight.
         new ResizeObserver(() => this.#follow()).observe(this.element);
         this.clear();
     }
@@ -68,7 +68,7 @@ export class OutputView {
         return news;
     }
 
-    // Of all that stands there, the last paragraph alone is news.
+    // Counts only the last paragraph as news, because the player has read the others before the game was resumed.
     keepLastReply() {
         const lines = [...this.#text.querySelectorAll("p")];
         const first = lines.findLastIndex((line) => line.textContent === "") + 1;
@@ -93,7 +93,7 @@ export class OutputView {
         this.#shownFrom = this.element.scrollTop;
     }
 
-    // Every line is as high as the probe, which has one.
+    // Divides the height of the text by that of the probe, which holds a single line.
     countLines() {
         const line = this.#probe.getBoundingClientRect().height;
         return line > 0 ? Math.round(this.#text.getBoundingClientRect().height / line) : 1;

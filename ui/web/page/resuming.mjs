@@ -1,5 +1,5 @@
-// Keeps the running game as the player goes, and offers at the title to go on with one that was left: phones throw pages away to which their
-// player only wanted to come back later.
+// Keeps the running game after each command and offers at the title to go on with a game that was left, because phones throw a page away
+// while its player is in another app.
 import { BrowserStore } from "./browser_store.mjs";
 import { EventKind } from "./event_queue.mjs";
 import { RunningGame } from "./running_game.mjs";
@@ -7,7 +7,7 @@ import { RunningGame } from "./running_game.mjs";
 const Interrupted = "/interrupted";  // where the program finds the snapshot
 const Last = "orvel-tavoren-game";
 
-// A tab's own memory, which it has back when the browser loads its page again. Browsers that keep nothing refuse it.
+// The tab's own storage, which the browser gives back when it loads the page again. A browser that keeps nothing refuses access to it.
 const session = {
     get last() {
         try {
@@ -20,7 +20,7 @@ const session = {
         try {
             sessionStorage.setItem(Last, id);
         } catch {
-            // Then the newest game is offered.
+            // Without it the newest game is offered instead of this tab's.
         }
     },
 };
@@ -32,7 +32,7 @@ function newOffer(time, goOn) {
     return [`Zůstala tu rozehraná hra (${when}).`, button];
 }
 
-// To be called when the program runs.
+// Call this when the program runs.
 export function keepRunningGame(engine, desktop) {
     const id = crypto.getRandomValues(new Uint32Array(2)).join("-");
     const running = new RunningGame(new BrowserStore("orvel-tavoren-running", "games"), session, id);

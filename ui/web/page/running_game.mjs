@@ -1,5 +1,6 @@
-// Keeps the running game beside the saved ones, so that a tab which was thrown away goes on where it was. Every tab keeps its own game, and
-// keeps the last few that were left: none writes over another's. Like records.mjs this module knows no browser.
+// Keeps the running game in the browser, so that a tab that the browser throws away can go on where it was. Every tab keeps its game under a
+// name of its own, so that no tab writes over the game of another, and the last few games that were left stay. Like records.mjs this module
+// knows no browser.
 import { equalBytes } from "./bytes.mjs";
 import { inTime } from "./deadline.mjs";
 
@@ -9,22 +10,22 @@ export class RunningGame {
     #store;
     #session;
     #id;
-    #beginning = null;  // the first snapshot: as long as the game is no further, there is nothing to lose
+    #beginning = null;  // the first snapshot, which is not kept, because a game that is no further has nothing to lose
     #wanted = null;  // the snapshot to be kept; null when there is no game to go on with
     #kept = null;
-    #outdated = new Set();  // the games that the next writing does away with
+    #outdated = new Set();  // names of games that the next writing deletes
     #isWriting = false;
 
-    // The store is one as in records.mjs, of records with a time in milliseconds and bytes. `session` holds in `last` the name of the game
-    // that this tab kept last, also when the browser has thrown its page away meanwhile; `id` is the name of the new one.
+    // The store is like that of records.mjs; each record has a time in milliseconds and the bytes of a snapshot. `session.last` is the name
+    // of the game that this tab kept last, and outlives the page. `id` is the name under which this page keeps its game.
     constructor(store, session, id) {
         this.#store = store;
         this.#session = session;
         this.#id = id;
     }
 
-    // The game to go on with: the one that this tab left, or else the newest. Undefined when there is none that `canResume` takes, or the
-    // browser does not tell.
+    // Promises the game to go on with: the one that this tab left, or else the newest. Undefined when `canResume` takes none of them, or when
+    // the browser does not answer.
     async find(canResume) {
         try {
             await inTime(this.#store.open());
@@ -47,7 +48,7 @@ export class RunningGame {
         this.#write();
     }
 
-    // Null when the game has ended.
+    // The snapshot is null when the game has ended.
     keep(snapshot) {
         this.#beginning ??= snapshot;
         if (this.#kept === null && this.#wanted === null && equalBytes(snapshot, this.#beginning)) return;
@@ -55,7 +56,7 @@ export class RunningGame {
         this.#write();
     }
 
-    // Nobody waits for it. What is wanted by the time that one writing ends is written next.
+    // Nobody waits for this to end. A snapshot that comes during a writing is written after it.
     async #write() {
         if (this.#isWriting) return;
         this.#isWriting = true;

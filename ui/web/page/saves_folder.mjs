@@ -1,10 +1,10 @@
-// The folder of saved games as the program's file system holds it, in memory. The program keeps a file by fsync on the folder, as on a disk;
-// the answer comes from whoever keeps the files beyond the page.
+// The folder of saved games in the program's file system, which is in memory. To keep a file, the program calls fsync on the folder, as it
+// does on a disk; fsync then waits for `keep`, which keeps the files beyond the life of the page.
 
 const DraftPrefix = ".saving-";  // of files that the program is still writing
-const MostNameBytes = 255;  // as on other systems, and what the program can list
+const MostNameBytes = 255;  // as on a disk; the program cannot list longer names
 
-// The system's numbers, as the program knows them.
+// The program's numbers of errors.
 const Errno = { EINVAL: 28, EIO: 29, ENAMETOOLONG: 37, ENOSPC: 51, ETIMEDOUT: 73 };
 const ErrnoOf = { QuotaExceededError: Errno.ENOSPC, TimeoutError: Errno.ETIMEDOUT };
 
@@ -21,14 +21,15 @@ export class SavesFolder {
         this.#path = path;
     }
 
-    // From now on fsync waits for `keep`, which promises whether the files are kept, and rejects when keeping them failed.
+    // `keep` promises whether the files are kept, and rejects when keeping them failed.
     keepBy(keep) {
         const files = this.#files;
         const { node } = files.lookupPath(this.#path);
         const { rename } = node.node_ops;
         node.node_ops = {
             ...node.node_ops,
-            // The program's own file system takes names of any length, and finds a replaced file for ever because it stays in the hash.
+            // Emscripten's own rename takes names of any length. It also leaves a replaced file in its hash, so that the program would go on
+            // finding the old file.
             rename(file, folder, name) {
                 if (!canNameFile(name)) throw new files.ErrnoError(Errno.ENAMETOOLONG);
                 const replaced = folder.contents[name];
@@ -36,7 +37,7 @@ export class SavesFolder {
                 rename(file, folder, name);
             },
         };
-        // EINVAL tells the program that there is nothing here to keep a file on.
+        // EINVAL tells the program that this file system keeps nothing.
         const fsync = () => keep().then((kept) => kept ? 0 : Errno.EINVAL, (error) => ErrnoOf[error?.name] ?? Errno.EIO);
         node.stream_ops = { ...node.stream_ops, fsync };
     }

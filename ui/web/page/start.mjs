@@ -1,5 +1,5 @@
-// Gets what the game needs, all of it at once, puts the story where the program finds it, and starts the program.
-import createEngine from "engine";  // what emscripten makes of the program; the build says where that is
+// Fetches everything that the game needs at once, puts the story into the program's file system, and starts the program.
+import createEngine from "engine";  // the script that emscripten makes beside the program; the build says where it lies
 import { BrowserStore, askToKeepForGood, isPrivateWindow } from "./browser_store.mjs";
 import { Desktop } from "./desktop.mjs";
 import { EventKind } from "./event_queue.mjs";
@@ -14,7 +14,7 @@ import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
 const ProgramFolder = "/orvel-tavoren";
 
-// The title's picture stands in for that of the main window until that has come.
+// Removes the title's picture when the main window's own picture has come.
 async function takeTitleAway(desktop) {
     const title = document.getElementById("title");
     for (const type of ["keydown", "pointerdown"]) addEventListener(type, () => title?.classList.add("behind"), { capture: true, once: true });

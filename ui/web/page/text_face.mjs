@@ -1,6 +1,6 @@
-// The face of all text: Arial, or the page's own that runs exactly as wide.
+// The font of all text in the game's windows: Arial, or the page's own font, which is exactly as wide.
 
-// Whether text set in it will look and measure right.
+// Promises whether text in this font looks and measures as in Arial.
 export async function loadTextFace() {
     try {
         const faces = await Promise.all([document.fonts.load('13px "Orvel Sans"', "ř"), document.fonts.load('bold 13px "Orvel Sans"', "ř")]);

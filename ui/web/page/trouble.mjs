@@ -1,4 +1,4 @@
-// Why there is no game. index.html has a sentence for each reason, and loader.js shows it.
+// The reasons why there is no game. index.html has a sentence for each, and loader.js shows it.
 
 export class Trouble extends Error {
     constructor(reason, { address = "", cause } = {}) {
@@ -13,7 +13,8 @@ export function showTrouble(error) {
     dispatchEvent(new CustomEvent("trouble", { detail: { reason, address } }));
 }
 
-// What the program dies of comes from a promise that nobody waits for: an order that its code cannot follow, or an exception of C++.
+// Tells the player when the program crashes. A crash is an error of WebAssembly or a C++ exception, which is a number here; it rejects a
+// promise that nobody waits for.
 export function watchProgram() {
     addEventListener("unhandledrejection", ({ reason }) => {
         if (reason instanceof WebAssembly.RuntimeError || typeof reason === "number") showTrouble(new Trouble("crash", { cause: reason }));

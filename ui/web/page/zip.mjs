@@ -1,4 +1,4 @@
-// Files put together in one, as they are: a .zip without compression.
+// Puts files together in a .zip without compression.
 
 const Utf8Names = 0x0800;
 const Version = 20;
@@ -17,7 +17,7 @@ function record(...fields) {
     return new Uint8Array(fields.flatMap(([size, number]) => Array.from({ length: size }, (_, index) => number >>> 8 * index & 0xFF)));
 }
 
-// Two words: halves of a second, minutes and hours; days, months and years from 1980.
+// Two words: the first holds half the seconds, the minutes and the hours, the second the day, the month and the years since 1980.
 function dosTime(date) {
     return [
         [2, date.getSeconds() >> 1 | date.getMinutes() << 5 | date.getHours() << 11],
