@@ -78,7 +78,7 @@ for (const [width, height, touch] of [...fingers.map((size) => [...size, true]),
         assert.equal(compact, touch || width < 819 || height < 692);
         assert.equal(await tab.evaluate(() => document.querySelector("[id='Form1.List2(0)'] > .rows").scrollTop > 0), !compact);
 
-        // What to use a thing on is asked in sight; so long as it comes under the finger, a second tap is not for it.
+        // The list of what to use a thing on is in sight. Where it appears under the finger, it ignores the second tap of a double tap.
         await player.click("Form1.List2(0)", "Použij");
         await player.click("Form1.List2(1)", "dveře");
         if (touch) await tab.touchscreen.tap(...await middleOf(tab, "[id='Form1.List2(1)'] [role=option]:nth-child(2)"));
@@ -88,7 +88,7 @@ for (const [width, height, touch] of [...fingers.map((size) => [...size, true]),
         assert.deepEqual([...await complain(inSight), ...await findBarriers(tab)], []);
         await player.keys("Backspace");
 
-        // All that can be carried is in sight, but in the smallest window of all.
+        // All five things that can be carried are in sight, except in the smallest window.
         const carried = await tab.evaluate(() => {
             const box = document.querySelector("[id='Form1.List1'] > .rows");
             for (let copies = 0; copies < 4; ++copies) box.append(box.firstChild.cloneNode(true));

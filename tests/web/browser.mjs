@@ -1,5 +1,5 @@
-// Opens the page in a real browser, from a plain server on the loopback, in a sub-folder and with a fresh profile. What the page does
-// that it never may is kept as complaints: errors, requests to other hosts, breaches of its own policy.
+// Opens the page in a real browser with a fresh profile, from a sub-folder of a plain server on the loopback. Errors, requests to other hosts
+// and breaches of the page's own policy are kept as complaints, because the page must never cause any.
 import { mkdir, mkdtemp, readFile, rm, writeFile } from "node:fs/promises";
 import http from "node:http";
 import { tmpdir } from "node:os";
@@ -12,8 +12,8 @@ const Types = { ".html": "text/html", ".js": "text/javascript", ".wasm": "applic
 const Quiet = ["--headless=new", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
     "--disable-component-update", "--disable-sync"];
 
-// A plain web server. Stopped, it leaves as little behind as a network that is cut. `spoil` makes of a file's name and bytes what is sent in
-// their place, or promises it; null is a file that is missing.
+// A plain web server. To stop it cuts all connections, as when the network is lost. `spoil` is given a file's name and bytes and returns, or
+// promises, the bytes to send instead; null makes the file a missing one.
 export async function serve(site, spoil = (name, bytes) => bytes) {
     const server = http.createServer(async (request, response) => {
         const { pathname } = new URL(request.url, "http://localhost");
@@ -33,7 +33,7 @@ export async function serve(site, spoil = (name, bytes) => bytes) {
     };
 }
 
-// A browser of puppeteer's, whose profile and downloads lie in those folders; one that keeps nothing refuses pages all storage.
+// Starts a browser with its profile and its downloads in those folders; one that keeps nothing refuses pages all storage.
 export async function launch(kind, profile, downloads, keepsNothing = false) {
     if (kind === "firefox") {
         return puppeteer.launch({
@@ -55,24 +55,24 @@ export async function launch(kind, profile, downloads, keepsNothing = false) {
     return puppeteer.launch({
         executablePath: programOrSkip(kind),
         userDataDir: profile,
-        args: process.getuid() === 0 ? [...Quiet, "--no-sandbox"] : Quiet,  // its sandbox refuses the administrator
+        args: process.getuid() === 0 ? [...Quiet, "--no-sandbox"] : Quiet,  // because the sandbox does not work for root
         ignoreDefaultArgs: ["--hide-scrollbars"],
         downloadBehavior: { policy: "allow", downloadPath: downloads },
     });
 }
 
-// What keeps people out of the page as it now stands, in sentences.
+// Promises sentences about what in the page, as it is now, keeps people with disabilities out.
 export async function findBarriers(tab) {
     await tab.evaluate(await readFile(new URL("node_modules/axe-core/axe.min.js", import.meta.url), "utf8"));
     const { violations } = await tab.evaluate(() => window.axe.run());
     return violations.map(({ id, help, nodes }) => `${id}: ${help}: ${nodes.map(({ target }) => target).join(" ")}`);
 }
 
-// What in the page a finger would miss, an eye would strain at, or an edge cuts off, in sentences.
+// Promises sentences about what in the page is too small for a finger or for an eye, and about what is cut off at an edge.
 export function findSmall(tab) {
     return tab.evaluate(() => {
         const found = [];
-        const least = matchMedia("(pointer: coarse)").matches ? 44 : 0;  // a mouse hits what is small
+        const least = matchMedia("(pointer: coarse)").matches ? 44 : 0;  // because a mouse can hit small things
         const say = (element, what) => found.push(`${element.closest("[id]")?.id} "${element.textContent.slice(0, 20)}" ${what}`);
         if (document.scrollingElement.scrollWidth > innerWidth) say(document.scrollingElement, "scrolls sideways");
         for (const element of document.querySelectorAll("button, input, p, [role=option], output")) {
@@ -87,13 +87,13 @@ export function findSmall(tab) {
     });
 }
 
-// A browser that has nothing of an earlier one.
+// A browser with a profile of its own, which has nothing of an earlier one.
 export class Browser {
     complaints = [];
     #browser;
     #profile;
 
-    // One that keeps nothing is set to refuse pages all storage.
+    // With `keepsNothing` the browser refuses pages all storage.
     static async start({ keepsNothing = false } = {}) {
         const started = new Browser();
         started.#profile = await mkdtemp(path.join(tmpdir(), "orvel-page-"));
@@ -103,7 +103,7 @@ export class Browser {
         return started;
     }
 
-    // A tab that shows the page, and there what is waited for; `prepare` runs in it before any script of the page.
+    // Opens the page in a tab and waits until the element `shows` is there. `prepare` runs in the tab before any script of the page.
     async open(address, { width = 1280, height = 800, touch = false, prepare = () => {}, shows = "#Form1:not([hidden])" } = {}) {
         const tab = await this.#browser.newPage();
         await tab.setViewport({ width, height, hasTouch: touch, isMobile: touch });
@@ -124,7 +124,7 @@ export class Browser {
             if (message.type() === "error") this.complaints.push(`console: ${message.text()} ${message.location().url ?? ""}`);
         });
         tab.on("pageerror", (error) => {
-            // Firefox says so of its own icon of a tab that is closed before that has come.
+            // Firefox reports this of the page's icon when the tab is closed before the icon has come.
             if (error.message !== "Image corrupt or truncated.") this.complaints.push(`uncaught: ${error.stack}`);
         });
         tab.on("request", (request) => {

@@ -5,7 +5,7 @@ export class FakeBrowser {
     isNew = true;
     tabs = [];
 
-    // Cleared by the player or for want of room, which the browser tells the tabs or does not.
+    // Clears the store, as the player does, or a browser that lacks room. Browsers tell the tabs of it, or do not.
     clear({ told = true } = {}) {
         this.records.clear();
         this.isNew = true;
@@ -14,7 +14,7 @@ export class FakeBrowser {
 }
 
 export class FakeStore {
-    // What stands in the place of an answer, by the question: a function that throws, or promises something that may never come.
+    // By the name of a question, a function that answers it in the store's place: it throws, or promises an answer that may never come.
     trouble = {};
     #browser;
     onNews = () => {};
@@ -69,5 +69,5 @@ export function stall() {
     return { answer, question: () => pending };
 }
 
-// Until all that can happen without waiting has happened.
+// Waits until everything has happened that needs no waiting.
 export const settled = () => new Promise((done) => { setImmediate(done); });

@@ -1,7 +1,7 @@
-// Somebody who plays in the page with mouse, finger and keys, and sees of it what the DOM shows. Controls go by the names that the headless
-// player knows them by. What a real player could not do, for it is covered, hidden or without the focus, is refused.
+// Somebody who plays in the page with mouse, finger and keys, and sees of it what the DOM shows. Controls have the names that the headless
+// player gives them. To use a control that is covered, hidden or without the focus throws, because a real player could not do so.
 
-// Runs in the page: where to click the control, or the entry of the list; the sentence that says why that cannot be.
+// Runs in the page: returns where to click the control, or the list's entry, or else a sentence that says why neither can be clicked.
 function findTarget(id, entry) {
     const control = document.getElementById(id);
     if (control === null) return "there is no such control";
@@ -15,7 +15,7 @@ function findTarget(id, entry) {
     return target.contains(document.elementFromPoint(point.x, point.y)) ? point : "something else lies there";
 }
 
-// Runs in the page: what every window shows, as the headless player reports it, and the message that is in the way.
+// Runs in the page: returns what every window shows, in the form of the headless player's report, or else the message that covers them.
 function readPage() {
     if (document.getElementById("notice").textContent.startsWith("Hra skončila.")) return { ended: true };
     const box = document.getElementById("message-box");
@@ -55,10 +55,10 @@ export class Player {
         this.#hasTouch = tab.viewport()?.hasTouch;
     }
 
-    // The number from 0 does for an entry's name.
+    // An entry is named by its text or by its number from 0.
     async click(id, entry = "") {
         let target = await this.#tab.evaluate(findTarget, id, entry);
-        // What has just come in the place of something else takes no taps at once.
+        // A list that has just come to lie over another one takes no taps for a moment.
         for (let tries = 0; target === "something else lies there" && tries < 10; ++tries) {
             await new Promise((later) => { setTimeout(later, 50); });
             target = await this.#tab.evaluate(findTarget, id, entry);
@@ -72,7 +72,7 @@ export class Player {
         for (const name of names) await this.#tab.keyboard.press(name);
     }
 
-    // Presses a key where a player would have to stand to do so.
+    // Presses a key in the control, which must have the focus.
     async key(id, name) {
         await this.#stand(id);
         await this.keys(name);
@@ -120,7 +120,7 @@ export class Player {
         return this.#tab.evaluate(() => document.activeElement.closest(".control")?.id ?? "");
     }
 
-    // A game is saved when the browser has it; the panel stays open over a refused name alone.
+    // Waits until the browser has kept the game, when the panel closes. A refused name leaves the panel open, which ends the waiting too.
     async #awaitSave() {
         await this.#tab.waitForSelector("#Form4[hidden], #message-box:not([hidden])", { timeout: 1000 }).catch(() => {});
     }

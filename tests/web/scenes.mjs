@@ -9,7 +9,7 @@ export const chromiumAlone = { ...patience, skip: inFirefox };
 
 export let server, browser;
 
-// Both are there from the file's first scene to its last; afterwards the page must have done nothing that it never may.
+// Starts both before the file's first scene and stops both after its last, when nothing may have caused a complaint.
 export function stageScenes(site, startBrowser = () => Browser.start()) {
     before(async () => {
         server = await serve(site);

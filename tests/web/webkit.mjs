@@ -140,7 +140,7 @@ export class WebKit {
         return this.#tab;
     }
 
-    // The driver tells of no request and no error; of the requests the page itself knows.
+    // WebKit's driver reports neither requests nor errors, so the requests are asked of the page itself.
     async #findForeignRequests() {
         const foreign = await this.#tab.evaluate(() => performance.getEntriesByType("resource").map(({ name }) => name)
             .filter((name) => new URL(name).origin !== location.origin));
