@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/words.h"
+#include "core/game_files.h"
 
 using TextNumber = std::int16_t;
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "core/words.h"
+#include "core/game_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 

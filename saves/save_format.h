@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/game_files.h"
 #include "core/game_state.h"
-#include "core/words.h"
 
 // What the player reads when a saved game cannot be loaded for what is in it.
 constexpr std::string_view LoadError = "Chyba během načítání!";

@@ -7,7 +7,7 @@
 #include <span>
 
 #include "core/game.h"
-#include "core/words.h"
+#include "core/game_files.h"
 
 // Nothing before the game proper has begun, and nothing once the story has ended.
 std::optional<Bytes> TakeSnapshot(const Game& game);

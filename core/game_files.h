@@ -1,4 +1,4 @@
-// The 16-bit little-endian words that every file of the game is made of.
+// Reading the files of the game, which all consist of 16-bit little-endian words.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "core/words.h"
+#include "core/game_files.h"
 
 #include <array>
 #include <cstdio>
