@@ -1,4 +1,4 @@
-// What the browser keeps of this page beyond its life, as a store that records.mjs describes: a table of IndexedDB, shared by the page's tabs.
+// A store as records.mjs describes it: a table of IndexedDB, which outlives the page and is shared by all its tabs.
 
 function requested(request) {
     return new Promise((resolve, reject) => {
@@ -46,7 +46,7 @@ export class BrowserStore {
             this.#isNew = true;
         };
         const database = await requested(request);
-        // By the browser, as when the player clears what it keeps.
+        // The browser closes the database itself, for example when the player clears the page's data.
         database.onclose = () => {
             this.drop();
             this.onNews();
@@ -59,7 +59,7 @@ export class BrowserStore {
         return database;
     }
 
-    // A browser that keeps nothing may not let the other tabs be called; then no tab has news for another either.
+    // A browser that keeps nothing may refuse a channel to the other tabs. It does no harm, because then no tab has news for another.
     #listenToOtherTabs() {
         if (this.#otherTabs !== null) return;
         try {
@@ -95,13 +95,13 @@ export class BrowserStore {
     }
 }
 
-// Browsers that forget all of a private window lend it no folder of its own. A page that is a file never gets one.
+// Browsers give a private window no folder of its own. A page that is a file never gets one, so there the answer is not known.
 export async function isPrivateWindow() {
     if (location.protocol === "file:" || !navigator.storage?.getDirectory) return false;
     return navigator.storage.getDirectory().then(() => false, () => true);
 }
 
-// Whether the browser will not clear what it keeps when it lacks room. It may put the question to the player, who may never answer.
+// Asks the browser to promise that it will not clear the page's data for want of room. It may ask the player, who may never answer.
 export async function askToKeepForGood() {
     return await navigator.storage?.persist?.().catch(() => false) ?? false;
 }

@@ -1,5 +1,5 @@
-// Keeps the files of a folder as records of a store that other tabs of the page use too. A tab writes what it has changed and nothing else,
-// so that none undoes what another one did. This module knows no browser: the store is given.
+// Keeps the files of a folder as records of a store that other tabs of the page use too. A tab writes only what it has changed itself, so
+// that it does not undo the changes of another tab. This module knows no browser: the store is given.
 //
 // A store has these, each of which may reject or never answer:
 //     open()         promises whether the store was made anew, empty; called before every load and save
@@ -14,12 +14,12 @@ export class Records {
     #store;
     #folder;
     #patience;
-    #kept = new Map();  // the records, as far as this tab has heard
+    #kept = new Map();  // the records as this tab has last read or written them
     #last = Promise.resolve();  // all work on the records is done one after the other
     #everOpened = false;
     refused = false;  // the store has never opened, so the folder lives as long as the page does
     isSilent = false;  // the store did not answer in time when it was last asked
-    hasFailed = false;  // to write; a browser whose storage failed once, as on a full disk, may drop all of it when it starts anew
+    hasFailed = false;  // writing has failed once, as on a full disk; the browser may then drop all records when it is started again
     onNews = () => {};  // the facts above, or what is kept, may have changed
     onChange = () => {};  // the folder has changed without the program's doing
 
@@ -31,14 +31,14 @@ export class Records {
         store.onNews = () => this.read();
     }
 
-    // Brings the folder up to date. A failure is noted, and met again by the next write.
+    // Brings the folder up to date. A failure is only logged, because the next write meets it again.
     async read() {
         await this.#inTurn(() => this.#takeRecords()).catch((error) => console.warn(error));
     }
 
     // Promises true when the store has all of the folder, false when it refuses to keep anything; rejects when writing failed.
     async write() {
-        // In all no longer than one wait may take: work that is in the way may stall as well.
+        // The patience is for the earlier work too, which this one waits for and which may hang as well.
         const written = this.#answer(this.#inTurn(() => this.#putRecords()));
         return written.then(() => true, (error) => {
             this.hasFailed ||= !this.refused;
@@ -60,7 +60,7 @@ export class Records {
 
     async #attempt(work) {
         try {
-            // A store that is made anew was cleared by the player or the browser: what this tab has is to be written again.
+            // A store is made anew after the player or the browser has cleared it, so this tab writes all its files again.
             const cleared = await this.#answer(this.#store.open());
             this.#everOpened = true;
             if (cleared) this.#kept.clear();
@@ -68,7 +68,7 @@ export class Records {
             if (cleared) await this.#putRecords();
             this.refused = this.isSilent = false;
         } catch (error) {
-            // A phone may have cut the connection while the page slept.
+            // The next attempt opens another connection, because a phone may have cut this one while the page slept.
             this.#store.drop();
             this.isSilent = error?.name === "TimeoutError";
             this.refused = !this.#everOpened && !this.isSilent;
@@ -78,7 +78,7 @@ export class Records {
         }
     }
 
-    // An answer that comes late is good news all the same.
+    // When an answer comes after all, the store is asked again, and what the player is told of it changes.
     #answer(promise) {
         return inTime(promise, this.#patience).catch((error) => {
             if (error?.name === "TimeoutError") promise.then(() => this.read(), () => {});
@@ -86,7 +86,7 @@ export class Records {
         });
     }
 
-    // What this tab has yet to write stays.
+    // Leaves alone what this tab has changed and not written yet.
     async #takeRecords() {
         const records = await this.#answer(this.#store.load());
         let changed = false;

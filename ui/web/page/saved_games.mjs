@@ -1,4 +1,4 @@
-// The saved games as the page tells the player of them: which there are, whether they would outlive the page, and what is to be done if not.
+// What the page tells the player of the saved games: which there are, whether they would outlive the page, and what to do if not.
 import { equalBytes } from "./bytes.mjs";
 import { canNameFile } from "./saves_folder.mjs";
 
@@ -14,12 +14,12 @@ export class SavedGames {
     #browser;
     #downloaded = new Map();
     #wasAsked = false;
-    isPrivate = false;  // all is forgotten with the window
+    isPrivate = false;  // the browser forgets all records when the window is closed
     promised = null;  // whether the browser will not clear the records when it lacks room; null until it has answered
     onNews = () => {};  // what there is to say has changed
     onChange = () => {};  // the folder has changed without the program's doing
 
-    // `browser` answers isPrivateWindow() and askToKeepForGood(), or never does: nothing waits for that.
+    // `browser` has isPrivateWindow() and askToKeepForGood(). Nothing waits for their answers, because they may never come.
     constructor(folder, records, browser) {
         this.#folder = folder;
         this.#records = records;
@@ -86,7 +86,7 @@ export class SavedGames {
         return this.#isOnlyHere(name) || this.isPrivate || this.#records.hasFailed;
     }
 
-    // Whether something would be lost with the page that the player has in no file.
+    // Whether closing the page would lose a saved game that the player has not downloaded.
     wouldBeLost() {
         return this.names().some((name) => this.#isInDanger(name) && !equalBytes(this.bytes(name), this.#downloaded.get(name)));
     }

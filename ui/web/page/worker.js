@@ -1,9 +1,9 @@
-// Keeps one version of the page, whole and checked, and answers with it whether there is a network or not. `Version` and `Files`, each with
-// its hash, are put in front of this script when the site is made.
+// Keeps all files of one version of the page, checked by their hashes, and answers the page's requests from them, with or without a network.
+// ui/web/assemble.py puts two constants in front of this script: `Version`, and `Files` with the hash of each file.
 const Prefix = `orvel-tavoren ${registration.scope} `;
 const Own = Prefix + Version;
 
-// What the browser already keeps will do where it is the right thing.
+// Takes the file from the browser's HTTP cache if its hash is right there, otherwise from the server.
 async function fetchChecked(name, integrity) {
     return fetch(name, { integrity }).catch(() => fetch(name, { integrity, cache: "reload" }));
 }
@@ -11,7 +11,7 @@ async function fetchChecked(name, integrity) {
 async function keepFile(cache, name, integrity) {
     const response = await fetchChecked(name, integrity);
     if (!response.ok) throw new Error(`${name}: ${response.status}`);
-    // Written anew: what came by way of another address is no answer to a navigation.
+    // Kept as a new response, because a browser does not answer a navigation with a response that was redirected.
     await cache.put(name, new Response(response.body, { headers: response.headers }));
 }
 
@@ -23,7 +23,7 @@ async function keepAll() {
     });
 }
 
-// The version before this one stays: a page that is open may still ask for its pictures.
+// Leaves the previous version there, because a page of that version may be open and still ask for its pictures.
 async function dropOldVersions() {
     const others = (await caches.keys()).filter((name) => name.startsWith(Prefix) && name !== Own);
     await Promise.all(others.slice(0, -1).map((name) => caches.delete(name)));
