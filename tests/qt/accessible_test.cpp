@@ -4,6 +4,7 @@
 #include <QAccessible>
 
 #include "tests/qt/screen.h"
+#include "ui/qt/look.h"
 
 using namespace ui;
 
@@ -11,6 +12,14 @@ namespace {
 
 QAccessibleInterface& Accessible(const Screen& screen, const Form& form, const Control& control) {
     return *QAccessible::queryAccessibleInterface(screen.Widget(form).WidgetOf(control));
+}
+
+bool LeadsTo(QAccessibleInterface& start, QAccessibleInterface& wanted) {
+    if (&start == &wanted) return true;
+    for (int index = 0; index < start.childCount(); ++index) {
+        if (LeadsTo(*start.child(index), wanted)) return true;
+    }
+    return false;
 }
 
 // Fourteen saved games, of which ten are in sight.
@@ -31,16 +40,26 @@ void Press(QAccessibleInterface& interface) {
 
 }  // namespace
 
-TEST(QtAccessible, NamesEveryControlInCzech) {
+TEST(QtAccessible, LeadsToEveryControlAndNamesItInCzech) {
+    QAccessible::setActive(true);  // as by a screen reader that was there before the game
     Screen screen;
     for (Form* form : screen.windows.All) {
         screen.Show(*form);
+        auto& window = *QAccessible::queryAccessibleInterface(&screen.Widget(*form));
         for (const Control& control : form->Controls) {
-            const QString name = Accessible(screen, *form, control).text(QAccessible::Name);
-            EXPECT_TRUE(name.startsWith(QString::fromStdString(std::string(LayoutOf(control).Spoken))));
+            auto& thing = Accessible(screen, *form, control);
+            const QString name = thing.text(QAccessible::Name);
+            SCOPED_TRACE(name.toStdString());
             EXPECT_FALSE(LayoutOf(control).Spoken.empty());
+            EXPECT_TRUE(name.startsWith(qt::ToQt(LayoutOf(control).Spoken)));
+            EXPECT_TRUE(LeadsTo(window, thing));
+            auto* const* label = std::get_if<Label*>(&control);
+            if (label == nullptr || !(*label)->Click) continue;
+            ASSERT_NE(thing.actionInterface(), nullptr);
+            EXPECT_TRUE(thing.actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
         }
     }
+    QAccessible::setActive(false);
 }
 
 TEST(QtAccessible, ReadsACaptionAndItsLight) {

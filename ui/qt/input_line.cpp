@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <algorithm>
 
 #include "ui/input.h"
 #include "ui/qt/keys.h"
@@ -15,9 +16,11 @@ namespace ui::qt {
 
 InputLine::InputLine(const EventSink& sink, TextBox& mirrored, QWidget* parent) : QLineEdit(parent), events(sink), box(mirrored) {
     setFrame(false);
-    setTextMargins(1, 0, 1, 0);
     setPalette(PaletteOf(box.Layout));
     setFont(ToQt(box.Layout.Font));
+    // Newer FreeType draws the ring of a Ů above the line's height. Qt centres the line between the margins, hence twice what sticks out.
+    const int sticksOut = -fontMetrics().boundingRect(u'Ů').top() - fontMetrics().ascent();
+    setTextMargins(1, 0, 1, -2 * std::max(0, sticksOut));
     setAccessibleName(ToQt(box.Layout.Spoken));
     setReadOnly(box.Layout.ReadOnly);
     setGeometry(Pixels(box.Layout.Bounds));

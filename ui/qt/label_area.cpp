@@ -11,7 +11,9 @@
 
 namespace ui::qt {
 
-LabelArea::LabelArea(const EventSink& sink, Label& mirrored, QWidget* parent) : QWidget(parent), events(sink), label(mirrored) {
+LabelArea::LabelArea(const EventSink& sink, Label& mirrored, QWidget* parent) : events(sink), label(mirrored) {
+    // Newer Qt tells screen readers of a widget as soon as it has a parent. In the constructor of QWidget this would be no LabelArea yet.
+    setParent(parent);
     setGeometry(Pixels(label.Layout.Bounds));
     setFont(ToQt(label.Layout.Font));
     if (label.Click) setFocusPolicy(Qt::TabFocus);
