@@ -28,6 +28,11 @@ install(FILES packaging/orvel-tavoren.desktop DESTINATION share/applications ${i
 install(FILES packaging/orvel-tavoren.metainfo.xml DESTINATION share/metainfo ${in_package})
 install(FILES docs/pruvodce.md docs/navod.md packaging/copyright LICENSES/CC-BY-SA-4.0.txt DESTINATION share/doc/orvel-tavoren ${in_package})
 install(DIRECTORY docs/obrazky DESTINATION share/doc/orvel-tavoren ${in_package})
+# Debian 12 has a lintian that does not know the warning yet and takes an override of it for an error. Unstable has no version.
+cmake_host_system_information(RESULT release QUERY DISTRIB_VERSION_ID)
+if(NOT release OR release VERSION_GREATER_EQUAL 13)
+    install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME orvel-tavoren ${in_package})
+endif()
 
 # Compressed files are made without a time stamp, so that builds are reproducible.
 set(changelog ${PROJECT_BINARY_DIR}/changelog.gz)
@@ -57,6 +62,9 @@ set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/package_kinds.cmake)
 set(CPACK_PACKAGE_CONTACT "Orvel Tavoren developers <maintainers@orvel-tavoren.example>")
 set(CPACK_PACKAGE_FILE_NAME orvel-tavoren-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 set(CPACK_STRIP_FILES ON)
+# Whatever the packer's umask.
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
