@@ -10,8 +10,8 @@ versions of the tree can be compared. Faults that do not compile are replaced by
 anything a player could see has to be judged by hand. Quick tests run first, and the first that fails is enough, unless --every asks
 for all that take at most so long.
 
---qt seeds into ui/qt and runs the Qt tests alone. Headers and app/main.cpp are left alone: the former would build everything
-anew, the latter has only tests that need a screen. It uses one processor and takes three to ten seconds a fault.
+--qt seeds into ui/qt and runs the Qt tests alone. It uses one processor and takes three to ten seconds a fault. Headers are left alone,
+because a change in one builds everything anew; app/main.cpp, because its tests need a screen; app/web.cpp, because only the page has it.
 
 --page seeds into the scripts and the style of ui/web/page. The node tests run first, then those in browsers, which take up to a minute
 together; a test that only runs the same script in a second browser is left out.
@@ -31,7 +31,7 @@ import time
 
 TREE = pathlib.Path(__file__).resolve().parents[1]
 FOLDERS = ["interactions", "commands", "terminal", "core", "saves", "ui", "text", "app", "tools"]
-LEFT_OUT = {"app/main.cpp", "tools/pack_texts_main.cpp"}
+LEFT_OUT = {"app/main.cpp", "app/web.cpp", "tools/pack_texts_main.cpp"}
 PAGE = "ui/web/page"
 SLOW = 0.2  # seconds; a test that takes longer is run by itself
 LIMIT = 30  # seconds of a processor; a test that takes more counts as hanging
