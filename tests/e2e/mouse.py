@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Plays the real window with a real mouse and keyboard: panels that keep what is behind them shut, the ways out of the game, and what is
-none of them.
+"""Plays the real window with a real mouse and keyboard: panels must keep the main window shut, the ways out of the game must end it, and
+keys that are no way out must not.
 
 Usage: mouse.py PROGRAM_FOLDER
 """

@@ -21,7 +21,7 @@ class Reader:
                                              "object:state-changed:focused")
 
     def find(self, name, within=None):
-        """The first thing of that name; none while a window goes away under the search."""
+        """The first thing of that name. None when there is none, or when a window goes away during the search."""
         try:
             for thing in filter(None, within or [program for program in self.desktop if program and program.name == "orvel-tavoren"]):
                 found = thing if thing.name == name else self.find(name, thing)

@@ -4,7 +4,7 @@
 Usage: window_replay.py PROGRAM_FOLDER, on a session bus of its own (dbus-run-session); it stands in for `replay`.
 
 It knows the events of the winning game, and answers `show` as tests/walkthroughs/beside.py explains. An event ends when the screen shows
-an effect of it; a message box is waited out in vain, because it shuts the windows.
+an effect of it. An event that brings a message box fails, because the box keeps the windows from showing any effect.
 """
 
 import json
@@ -72,7 +72,7 @@ class Window:
         return next((program for program in programs if self.bus.ask([program], NAME) == ["orvel-tavoren"]), None)
 
     def look_around(self):
-        """Meets the controls of windows that were not there before."""
+        """Finds the controls of windows that have appeared since the last look."""
         windows = self.bus.ask([self.game], CHILDREN)[0]
         if windows != self.windows:
             things = sum(self.bus.ask(windows, CHILDREN), [])
@@ -82,7 +82,7 @@ class Window:
         return self.controls
 
     def read(self):
-        """The texts, which of them are on the screen, the display and the light of the button: no event leaves all as they were."""
+        """Reads the texts, whether each is on the screen, and the labels with their lights. Every event changes at least one of these."""
         self.look_around()
         boxes = [name for name in self.controls if "Text" in name]
         answers = self.bus.ask([self.controls[name] for name in boxes], TEXT, STATES)

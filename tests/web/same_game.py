@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Plays random games in the native headless player and in the compiled one, and holds each answer of the one to the other's.
+"""Plays random games both in the native headless player and in the one compiled for the browser, and compares every answer.
 
     same_game.py NATIVE_REPLAY WEB_REPLAY PROGRAM_FOLDER [EVENTS [SEED]]
 

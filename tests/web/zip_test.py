@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Has the page's module put files together in a .zip, and reads it with another program's eyes: zip_test.py NODE ZIP_MODULE"""
+"""Lets the page's module make a .zip and reads it with Python's own: zip_test.py NODE ZIP_MODULE"""
 import io
 import os
 import subprocess
