@@ -20,6 +20,7 @@ const SingleFile = path.join(Site, "../orvel-tavoren.html");
 const Bare = `${Root}bench/web/bare`;
 const Starts = 15;
 const Clicks = 20;
+const Idle = 15;  // seconds
 const Lines = [10, 1930];  // in the box when its answers begin to be timed; past 2,000 the game empties it
 const MiB = 1024 * 1024;
 const Types = { ".html": "text/html", ".js": "text/javascript", ".css": "text/css", ".wasm": "application/wasm" };
@@ -183,23 +184,28 @@ async function measureMemory(browser, address) {
     row("heaps of scripts and program after the winning game", `${cell(JSHeapUsedSize)} + ${cell(program)}`, cell(JSHeapUsedSize + program));
 }
 
+// In seconds, of all processes of the browser.
+async function processorTime(browser) {
+    const client = await browser.target().createCDPSession();
+    const { processInfo } = await client.send("SystemInfo.getProcessInfo");
+    await client.detach();
+    return processInfo.reduce((sum, { cpuTime }) => sum + cpuTime, 0);
+}
+
 async function measureIdle(browser, address) {
-    const { page, context } = await openCold(browser, address, true);
-    await page.keyboard.press("Enter");
-    await page.keyboard.press("Enter");
-    await pause(1000);
-    await page.evaluate(() => {
-        window.asked = 0;
-        for (const name of ["setTimeout", "setInterval", "requestAnimationFrame", "requestIdleCallback"]) {
-            window[name] = () => { ++asked; };
-        }
-    });
-    const before = await page.metrics();
-    await pause(5000);
-    const after = await page.metrics();
-    row("timers and frames asked for in 5 s of idle", await page.evaluate(() => asked));
-    row("time in scripts in 5 s of idle", `${((after.ScriptDuration - before.ScriptDuration) * 1000).toFixed(2)} ms`);
-    await context.close();
+    const shares = [];
+    for (const value of ["no-preference", "reduce"]) {
+        const { page, context } = await openCold(browser, address, true);
+        await page.emulateMediaFeatures([{ name: "prefers-reduced-motion", value }]);
+        await page.keyboard.press("Enter");
+        await page.keyboard.press("Enter");
+        await pause(3000);
+        const before = await processorTime(browser);
+        await pause(Idle * 1000);
+        shares.push(`${((await processorTime(browser) - before) / Idle * 100).toFixed(2)} %`);
+        await context.close();
+    }
+    row("of a processor at idle, and that with a caret that stands still", ...shares);
 }
 
 function reportSizes(fetched) {

@@ -1,6 +1,7 @@
 // A box of one line. The browser does the editing; the program hears of every key first and of every edit after it, and its answer,
 // in which foreign characters are "?" and line breaks are gone, is shown at once. Some keyboards send a letter and its accent as two
 // characters; they are joined, because the program knows the joined ones alone.
+import { Caret } from "./caret.mjs";
 import { EventKind } from "./event_queue.mjs";
 
 export class InputLine {
@@ -8,6 +9,7 @@ export class InputLine {
     #place;
     #input = document.createElement("input");
     #beforeCaret = document.createTextNode("");
+    #caret = new Caret(this.#input);
     #behindCaret = document.createTextNode("");
     #ruler = document.createElement("div");
     #composing = false;
@@ -27,7 +29,7 @@ export class InputLine {
         this.#input.setAttribute("autocapitalize", "off");
         this.#input.setAttribute("autocorrect", "off");
         this.#input.setAttribute("aria-label", layout.spoken);
-        this.element.append(this.#input, this.#newCaret());
+        this.element.append(this.#input, this.#newRuler());
         if (layout.touch.caption !== "") this.element.append(this.#newTouchKey(layout.touch));
         this.#listen();
     }
@@ -49,10 +51,8 @@ export class InputLine {
     }
 
     // The browser's caret cannot be given a width and a height, so this one stands in an invisible copy of the text.
-    #newCaret() {
-        const caret = document.createElement("span");
-        caret.className = "caret";
-        this.#ruler.append(this.#beforeCaret, caret, this.#behindCaret);
+    #newRuler() {
+        this.#ruler.append(this.#beforeCaret, this.#caret.element, this.#behindCaret);
         const frame = document.createElement("div");
         frame.className = "ruler";
         frame.setAttribute("aria-hidden", "true");
@@ -133,6 +133,7 @@ export class InputLine {
         this.#beforeCaret.data = this.#input.value.slice(0, this.#input.selectionEnd);
         this.#behindCaret.data = this.#input.value.slice(this.#input.selectionEnd);
         this.#ruler.style.marginLeft = `${-this.#input.scrollLeft}px`;
+        this.#caret.show();
     }
 
     focus() {
