@@ -40,9 +40,14 @@ async function findHidden(tab, ids) {
         for (const box of document.querySelectorAll(".form:not([hidden]) :is(.rows, .output:not(.invisible))")) {
             const name = box.closest(".control").id;
             const hidden = box.scrollHeight - box.clientHeight - box.scrollTop > 1;
-            if (box.classList.contains("more-below") !== hidden) found.push(`${name} hides ${hidden ? "something" : "nothing"}`);
+            const sign = getComputedStyle(box.matches(".output") ? box : box.parentNode, "::after");
+            const hasSign = box.matches(".output") ? sign.content !== "none" : !sign.backgroundSize.endsWith(" 0px");
+            const isCompact = getComputedStyle(box.closest(".form")).display === "grid";  // the other arrangement has broad scroll bars
+            if (isCompact && hasSign !== hidden) found.push(`${name} hides ${hidden ? "something without a sign" : "nothing"}`);
             if (box.scrollWidth > box.clientWidth) found.push(`${name} is cut off on the right`);
         }
+        const sentence = document.querySelector("[id='Form1.Text2'] > .ruler");
+        if (sentence.scrollHeight > sentence.clientHeight) found.push("the sentence is cut off");
         return found;
     }, ids, Line);
 }
@@ -80,11 +85,11 @@ for (const [width, height, touch] of [...fingers.map((size) => [...size, true]),
 
         // The list of what to use a thing on is in sight. Where it appears under the finger, it ignores the second tap of a double tap.
         await player.click("Form1.List2(0)", "Použij");
-        await player.click("Form1.List2(1)", "dveře");
-        if (touch) await tab.touchscreen.tap(...await middleOf(tab, "[id='Form1.List2(1)'] [role=option]:nth-child(2)"));
-        assert.equal(await sentence(player), "Použij dveře na ");
-        await player.click("Form1.List2(2)", "sebe");
-        assert.equal(await sentence(player), "Použij dveře na sebe");
+        await player.click("Form1.List2(1)", "dveře do koupelny");
+        if (touch) await tab.touchscreen.tap(...await middleOf(tab, "[id='Form1.List2(1)'] [role=option]:nth-child(3)"));
+        assert.equal(await sentence(player), "Použij dveře do koupelny na ");
+        await player.click("Form1.List2(2)", "dveře do koupelny");
+        assert.equal(await sentence(player), "Použij dveře do koupelny na dveře do koupelny");
         assert.deepEqual([...await complain(inSight), ...await findBarriers(tab)], []);
         await player.keys("Backspace");
 
@@ -107,6 +112,22 @@ for (const [width, height, touch] of [...fingers.map((size) => [...size, true]),
         assert.equal((await player.look()).modal, null);
         await player.command("Ulož pozici");
         assert.deepEqual(await complain(["Form4.List1", "Form4.Text1", "Form4.Label2"]), []);
+        await player.click("Form4.Text1");
+        await player.type("Form4.Text1", "druhá pozice po koupelně");
+        await player.key("Form4.Text1", "Enter");
+
+        // In the page's own dialog names can be read, and the way out is in sight however many there are.
+        await tab[touch ? "tap" : "click"]("#open-saved-games");
+        const dialog = await tab.evaluate(() => {
+            const list = document.getElementById("saved-games");
+            for (let copies = 0; copies < 7; ++copies) list.append(list.firstChild.cloneNode(true));
+            const close = document.querySelector(".tools").lastChild;
+            const { left, top, width: wide, height: high } = close.getBoundingClientRect();
+            return { name: list.querySelector("span").offsetWidth, isCloseInSight: document.elementFromPoint(left + wide / 2, top + high / 2) === close };
+        });
+        assert.ok(dialog.name > 180, `${dialog.name} for a name`);
+        assert.equal(dialog.isCloseInSight, height >= 320);  // the lowest window scrolls
+        assert.deepEqual([...await findSmall(tab), ...await findBarriers(tab)], []);
         await tab.close();
     });
 }
@@ -166,5 +187,43 @@ test("a page of a list is what is in sight, and the rounded corners of a phone h
     assert.ok(inSight > 5 && inSight < 13, `${inSight} verbs in sight`);
     await player.keys("PageDown");
     assert.equal(await tab.$eval("[id='Form1.List2(0)'] .marked", (row) => [...row.parentNode.children].indexOf(row)), inSight);
+    await tab.close();
+});
+
+test("the caret blinks where the player is, and costs nothing elsewhere", chromiumAlone, async () => {
+    const prepare = () => {
+        window.running = new Set();
+        const { setInterval, clearInterval } = window;
+        window.setInterval = (...given) => {
+            const timer = setInterval(...given);
+            running.add(timer);
+            return timer;
+        };
+        window.clearInterval = (timer) => {
+            running.delete(timer);
+            clearInterval(timer);
+        };
+    };
+    const tab = await browser.open(server.address, { prepare });
+    const timers = () => tab.evaluate(() => running.size);
+    const opacity = () => tab.$eval("[id='Form1.Text2'] .caret", (caret) => getComputedStyle(caret).opacity);
+    const hide = (hidden) => tab.evaluate((value) => {
+        Object.defineProperty(document, "hidden", { value, configurable: true });
+        document.dispatchEvent(new Event("visibilitychange"));
+    }, hidden);
+    await tab.waitForFunction(() => document.querySelector("[id='Form1.Text2'] .caret").style.opacity === "0");
+    await tab.waitForFunction(() => document.querySelector("[id='Form1.Text2'] .caret").style.opacity === "1");
+    assert.equal(await timers(), 1);
+    await hide(true);
+    assert.equal(await timers(), 0);
+    await hide(false);
+    assert.equal(await timers(), 1);
+    await tab.keyboard.press("Tab");
+    assert.equal(await timers(), 0);
+    assert.equal(await tab.$eval("[id='Form1.Text2'] .caret", (caret) => getComputedStyle(caret).visibility), "hidden");
+    await tab.emulateMediaFeatures([{ name: "prefers-reduced-motion", value: "reduce" }]);
+    await tab.focus("[id='Form1.Text2'] > input");
+    assert.equal(await timers(), 0);
+    assert.equal(await opacity(), "1");
     await tab.close();
 });
