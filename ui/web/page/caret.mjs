@@ -6,14 +6,17 @@ const stillness = matchMedia("(prefers-reduced-motion: reduce)");
 
 export class Caret {
     element = document.createElement("span");
-    #input;
+    #hasFocus = false;  // the line, in a window that has it too: with the window's focus the line's comes and goes
     #timer = 0;
 
     constructor(input) {
-        this.#input = input;
         this.element.className = "caret";
-        input.addEventListener("focus", () => this.show());
-        input.addEventListener("blur", () => this.show());  // the window's, too
+        for (const type of ["focus", "blur"]) {
+            input.addEventListener(type, () => {
+                this.#hasFocus = type === "focus";
+                this.show();
+            });
+        }
         document.addEventListener("visibilitychange", () => this.show());
     }
 
@@ -22,7 +25,7 @@ export class Caret {
         clearInterval(this.#timer);
         const { style } = this.element;
         style.opacity = 1;
-        if (document.hidden || !document.hasFocus() || document.activeElement !== this.#input || stillness.matches) return;
+        if (!this.#hasFocus || document.hidden || stillness.matches) return;
         this.#timer = setInterval(() => { style.opacity = 1 - style.opacity; }, HalfPeriod);
     }
 }
