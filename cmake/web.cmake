@@ -3,7 +3,7 @@
 # Makes the target a program that runs in node and works on the machine's files, as a native program does.
 function(orvel_node_program target)
     target_link_options(${target} PRIVATE
-        -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH -sWASM_ASYNC_COMPILATION=0
+        -sENVIRONMENT=node -sNODERAWFS -sEXIT_RUNTIME -sALLOW_MEMORY_GROWTH -sTOTAL_STACK=1MB -sWASM_ASYNC_COMPILATION=0
         --js-library ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/emscripten/node_files.js)
 endfunction()
