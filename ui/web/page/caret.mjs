@@ -1,12 +1,12 @@
-// The caret of a line. It comes and goes by a timer that sets one style. An animation of the style, however few steps it has, makes Chromium
-// prepare a frame every time that the screen is refreshed, which takes three times as much of the processor.
+// The caret of a line. It blinks by a timer that sets one style, because an animation in the style sheet, however few steps it has, makes
+// Chromium prepare a frame at every refresh of the screen, which takes three times as much of the processor.
 const HalfPeriod = 530;  // milliseconds
 
 const stillness = matchMedia("(prefers-reduced-motion: reduce)");
 
 export class Caret {
     element = document.createElement("span");
-    #hasFocus = false;  // the line, in a window that has it too: with the window's focus the line's comes and goes
+    #hasFocus = false;  // whether the line has the focus; a window that loses the focus takes it from its line
     #timer = 0;
 
     constructor(input) {
@@ -20,7 +20,7 @@ export class Caret {
         document.addEventListener("visibilitychange", () => this.show());
     }
 
-    // Where the caret has moved the player looks for it, so from now on it is in sight for the first half of a period.
+    // Starts a new period with the caret in sight, because a player looks for a caret that has just moved.
     show() {
         clearInterval(this.#timer);
         const { style } = this.element;
