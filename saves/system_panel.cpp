@@ -1,6 +1,7 @@
 #include "saves/system_panel.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -12,10 +13,32 @@
 
 namespace {
 
-constexpr std::string_view ForbiddenCharacters = ".,:;\"'&#$?*";
+struct ForbiddenCharacter {
+    char Sign;
+    std::string_view Name;  // because a screen reader passes over the sign
+};
 
-bool HasForbiddenCharacter(std::string_view name) {
-    return name.find_first_of(ForbiddenCharacters) != std::string_view::npos;
+constexpr auto ForbiddenCharacters = std::to_array<ForbiddenCharacter>({
+    {'.', "tečka"},
+    {',', "čárka"},
+    {':', "dvojtečka"},
+    {';', "středník"},
+    {'"', "uvozovka"},
+    {'\'', "apostrof"},
+    {'&', "ampersand"},
+    {'#', "křížek"},
+    {'$', "dolar"},
+    {'?', "otazník"},
+    {'*', "hvězdička"},
+});
+
+// The first one in the name; nullptr: none.
+const ForbiddenCharacter* FindForbidden(std::string_view name) {
+    for (const char sign : name) {
+        const auto* const found = std::ranges::find(ForbiddenCharacters, sign, &ForbiddenCharacter::Sign);
+        if (found != ForbiddenCharacters.end()) return found;
+    }
+    return nullptr;
 }
 
 bool IsExit(std::string_view name) {
@@ -31,8 +54,9 @@ std::string Called(const std::string& name) {
 void ReadCom(Game& game) {
     ui::SystemWindow& panel = game.windows.Form4;
     const std::string name = panel.Text1.Text();
-    if (HasForbiddenCharacter(name)) {
-        return game.desktop.ShowNotice("Název „" + name + "“ hra nepřijme: nesmí v něm být žádný ze znaků . , : ; \" ' & # $ ? *");
+    if (const ForbiddenCharacter* const found = FindForbidden(name)) {
+        return game.desktop.ShowNotice("Název „" + name + "“ hra nepřijme: je v něm " + std::string(found->Name) + " (" + found->Sign +
+                                       ").");
     }
     if (IsExit(name)) return ui::Hide(panel.Window);
 
@@ -93,7 +117,7 @@ void OpenSystemPanel(Game& game) {
 bool CanNameSave(std::string_view name) {
     using namespace std::string_view_literals;
     const bool isPathOrLines = name.find_first_of("/\\\0\r\n"sv) != std::string_view::npos;
-    return !isPathOrLines && !HasForbiddenCharacter(name) && !IsExit(name);
+    return !isPathOrLines && FindForbidden(name) == nullptr && !IsExit(name);
 }
 
 void RenewSystemPanel(Game& game) {
