@@ -55,7 +55,7 @@ void VerbClick(Game& game) {
 
 void ObjectClick(Game& game) {
     const ui::ListBox& objects = game.windows.Form1.List2[1];
-    if (game.state.CommandObject != NotChosen || objects.Entry(0) == NothingThere) return;
+    if (game.state.CommandObject != NotChosen || objects.Entry(0) == ui::NothingThere) return;
     // No object is chosen yet, so that the player can click another direction; the command reader takes the one that is selected then.
     if (game.state.CommandVerb == verb::Go) return Echo(game, Sentence(game, objects.SelectedEntry()));
     ChooseObject(game, ItemHere(game.state, objects.Selected()));
@@ -72,7 +72,7 @@ void List1_Click(Game& game) {
     const ui::ListBox& carried = game.windows.Form1.List1;
     const GameState& state = game.state;
     if (state.GameStage == GameStage::Title || state.CommandVerb < verb::Examine || state.CommandVerb > verb::Talk) return;
-    if (carried.Entry(0) == NothingThere) return;
+    if (carried.Entry(0) == ui::NothingThere) return;
     const std::int16_t item = state.Inventory[static_cast<std::size_t>(carried.Selected())];
     if (state.CommandObject == NotChosen) {
         if (state.CommandVerb != verb::Take) ChooseObject(game, item);
@@ -102,15 +102,15 @@ void FillObjectList(Game& game) {
     const SectorRecord& here = Here(game.state);
     if (game.state.CommandVerb == verb::Go) {
         for (const Direction direction : OpenWays(here)) objects.Append(std::string("na ").append(WayTo(direction).Name));
-        if (objects.Entries().empty()) objects.Append(NothingThere);
+        if (objects.Entries().empty()) objects.Append(ui::NothingThere);
         return;
     }
     if (game.state.CommandVerb != verb::Put) {
         for (const std::int16_t item : here.Items) objects.Append(ItemName(Item{item}));
     }
-    if (here.Items.empty()) objects.Append(NothingThere);
+    if (here.Items.empty()) objects.Append(ui::NothingThere);
     // This list offers nothing to put down, because that is chosen from the list of carried things.
-    if (game.state.CommandVerb == verb::Put) objects.Append(NothingThere);
+    if (game.state.CommandVerb == verb::Put) objects.Append(ui::NothingThere);
 }
 
 void FillTargetList(Game& game) {
@@ -124,7 +124,7 @@ void ConnectForm1(Game& game) {
     ui::MainWindow& form = game.windows.Form1;
     const auto focusCommandLine = [&game] { ui::GiveFocus(game.windows, &game.windows.Form1.Text2); };
 
-    form.List1.Append(NothingThere);
+    form.List1.Append(ui::NothingThere);
     for (const std::string_view name : verb::Names) form.List2[0].Append(name);
 
     form.Text1.GotFocus = focusCommandLine;

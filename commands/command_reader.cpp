@@ -24,7 +24,7 @@ void RunObjectVerb(Game& game) {
     const ui::MainWindow& form = game.windows.Form1;
     const GameState& state = game.state;
     const ui::ListBox& offered = state.CommandVerb == verb::Put ? form.List1 : form.List2[1];
-    if (offered.Entry(0) == NothingThere) return;
+    if (offered.Entry(0) == ui::NothingThere) return;
 
     const Item object{state.CommandObject};
     switch (state.CommandVerb) {

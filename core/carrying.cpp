@@ -56,5 +56,5 @@ void RefreshInventoryList(Game& game) {
     for (const std::int16_t item : game.state.Inventory) {
         if (item > NumberOf(Item::Nothing)) list.Append(ItemName(Item{item}));
     }
-    if (list.Entries().empty()) list.Append(NothingThere);
+    if (list.Entries().empty()) list.Append(ui::NothingThere);
 }

@@ -17,5 +17,3 @@ static_assert(Names.size() == Exit + 1);
 
 // In CommandVerb, CommandObject and CommandTarget: nothing has been chosen.
 constexpr std::int16_t NotChosen = -1;
-
-constexpr std::string_view NothingThere = "---";  // the first entry of a list that offers nothing

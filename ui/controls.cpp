@@ -109,8 +109,12 @@ const ControlLayout& LayoutOf(const Control& control) {
     return std::visit([](const auto* each) -> const ControlLayout& { return each->Layout; }, control);
 }
 
+bool IsLit(const Label& label) {
+    return label.TextColour() == PaleCyan;
+}
+
 std::string_view SpokenLight(const Label& label) {
-    if (label.TextColour() == PaleCyan) return "svítí";
+    if (IsLit(label)) return "svítí";
     return label.TextColour() == Teal ? "zhaslo" : "";
 }
 

@@ -113,6 +113,9 @@ using Control = std::variant<TextBox*, ListBox*, Label*>;
 
 const ControlLayout& LayoutOf(const Control& control);
 
+// Whether the label is a state light that shines.
+bool IsLit(const Label& label);
+
 // What a screen reader says of a state light; nothing of other labels.
 std::string_view SpokenLight(const Label& label);
 

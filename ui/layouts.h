@@ -21,6 +21,8 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
+constexpr std::string_view NothingThere = "---";  // the first entry of a list of things that offers none
+
 constexpr Colour Black{0, 0, 0};
 constexpr Colour Cyan{0, 255, 255};
 constexpr Colour Yellow{255, 255, 0};
@@ -58,6 +60,7 @@ struct ControlLayout {
     bool ReadOnly = false;
     bool Hidden = false;
     bool Digits = false;  // what is typed into it are digits as a rule
+    bool Things = false;  // a list of things or ways, in which NothingThere stands for none
     TouchKey Touch{};
 };
 

@@ -53,7 +53,7 @@ int Size(const ui::ListBox& list) {
 }
 
 bool HasSomething(const ui::ListBox& list) {
-    return !list.Entries().empty() && list.Entry(0) != NothingThere;
+    return !list.Entries().empty() && list.Entry(0) != ui::NothingThere;
 }
 
 }  // namespace

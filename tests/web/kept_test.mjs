@@ -8,6 +8,7 @@ import path from "node:path";
 import { after, before, test } from "node:test";
 import { pathToFileURL } from "node:url";
 import { Browser, findBarriers, serve } from "./browser.mjs";
+import { Listener, growEars } from "./listener.mjs";
 import { Player } from "./player.mjs";
 import { browser, chromiumAlone, inFirefox, patience, server, stageScenes } from "./scenes.mjs";
 
@@ -77,10 +78,12 @@ async function downloaded(tab, name, by = browser) {
 }
 
 test("a game is saved, found again by the next visit, and told on by the headless player", patience, async () => {
-    const tab = await browser.open(server.address);
+    const tab = await browser.open(server.address, { prepare: growEars });
     const player = new Player(tab);
+    const listener = new Listener(tab);
     await player.keys("Enter", "Enter");
     await player.command("Vezmi", "nářadí");
+    assert.match((await listener.hear()).join(), /Vezmi\..*Vezmi nářadí\..*Proceed zhaslo/);
     await player.click("Form1.List2(0)", "Použij");
     await player.click("Form1.List2(1)", "terminál");
     await player.click("Form1.List2(2)", "sebe");
@@ -91,6 +94,7 @@ test("a game is saved, found again by the next visit, and told on by the headles
     await player.type("Form2.Text2", "exit");
     await player.click("Form2.Label2");
     await player.saveAs("žlutá");
+    assert.match((await listener.hear()).join(), /Pozice „žlutá“ je uložená/);
     await writeFile(nativeSave("žlutá"), await downloaded(tab, "žlutá"));
     const loaded = playNatively([...Beginning, ...load("žlutá")]);
     assert.deepEqual(loaded.forms.Form1.controls.List1.entries, ["nářadí"]);

@@ -35,7 +35,9 @@ function readPage() {
         }
         const input = control.querySelector("input");
         if (input) return { text: input.value, caret: input.selectionStart, visible: true };
-        return { caption: control.textContent, colour: style.color.match(/\d+/g).map(Number) };
+        const caption = Array.from(control.childNodes, (node) => node.className === "unseen" ? "" : node.textContent).join("");
+        const colour = control.style.getPropertyValue("--text").match(/[0-9a-f]{2}/g).map((part) => Number(`0x${part}`));
+        return { caption, colour };
     };
     const forms = {};
     for (const form of document.querySelectorAll(".form")) {

@@ -4,6 +4,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { findSmall } from "./browser.mjs";
+import { growEars } from "./listener.mjs";
 import { Player } from "./player.mjs";
 import { browser, patience, server, stageScenes } from "./scenes.mjs";
 import { WebKit } from "./webkit.mjs";
@@ -15,9 +16,14 @@ test("a game is played, saved, found again by the next visit and played on", pat
     const tab = await browser.open(server.address);
     const player = new Player(tab);
     const shown = async (form, control) => (await player.look()).forms[form].controls[control];
+    await tab.evaluate(growEars);
     await player.keys("Enter", "Enter");
     await player.command("Vezmi", "nářadí");
     assert.deepEqual((await shown("Form1", "List1")).entries, ["nářadí"]);
+    const heard = await tab.evaluate(() => window.heard.join());
+    assert.match(heard, /Nemůžeš jít nikam.*Vezmi\..*Vezmi nářadí\..*Proceed zhaslo/);
+    await player.keys("Tab", "Tab", "r", "Escape");
+    assert.equal(await player.focus(), "Form1.Text2");
     await player.saveAs("žlutá");
     assert.equal((await player.look()).modal, null);
 

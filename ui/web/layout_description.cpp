@@ -78,6 +78,7 @@ std::string DescribeControl(const Control& control) {
                    {"spoken", Quote(layout.Spoken)},
                    {"readOnly", Truth(layout.ReadOnly)},
                    {"digits", Truth(layout.Digits)},
+                   {"nothing", Quote(layout.Things ? NothingThere : "")},
                    {"touch", DescribeTouchKey(layout.Touch)},
                    {"takesClicks", Truth(TakesClicks(control))}});
 }

@@ -33,9 +33,9 @@ EM_JS(void, page_show_line, (int form, int control, const char* text, int size, 
 EM_JS(void, page_show_list, (int form, int control, const char* entries, int size, int selected), {
     Module.desktop.control(form, control).show(UTF8ToString(entries, size).split("\n").slice(0, -1), selected);
 })
-EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int colour, const char* light, int lightSize), {
+EM_JS(void, page_show_label, (int form, int control, const char* caption, int size, int colour, const char* light, int lightSize, int lit), {
     const hex = colour.toString(16).padStart(6, "0");
-    Module.desktop.control(form, control).show(UTF8ToString(caption, size), "#" + hex, UTF8ToString(light, lightSize));
+    Module.desktop.control(form, control).show(UTF8ToString(caption, size), "#" + hex, UTF8ToString(light, lightSize), lit !== 0);
 })
 EM_JS(void, page_show_focus, (int form, int control), { Module.desktop.showFocus(form, control); })
 EM_JS(void, page_show_busy_pointer, (int busy), { Module.desktop.showBusyPointer(busy !== 0); })
@@ -135,7 +135,7 @@ void ShowLabel(Place place, const Label& label) {
     const std::string_view light = SpokenLight(label);
     const auto [red, green, blue] = label.TextColour();
     const int colour = red << 16 | green << 8 | blue;
-    page_show_label(place.Form, place.Control, caption.data(), Size(caption), colour, light.data(), Size(light));
+    page_show_label(place.Form, place.Control, caption.data(), Size(caption), colour, light.data(), Size(light), IsLit(label) ? 1 : 0);
 }
 
 void ShowFocus(Place place) {

@@ -1,17 +1,32 @@
-// The one place from which a screen reader speaks of its own accord: what was written since the player's last move, once.
+// The one place from which a screen reader speaks of its own accord: what the player's last move brought, once.
+
+const Spoken = 5000;  // milliseconds after which the words are gone, because what was spoken is not to be read again on the way
 
 export class Announcer {
-    element = document.createElement("div");
+    #element;
+    #english;
+    #isCovered;
+    #waiting = [];
 
-    constructor() {
-        this.element.className = "unseen";
-        this.element.setAttribute("aria-live", "polite");
+    // `isCovered` tells whether something lies over the page that alone is read out; the words wait until it is gone.
+    constructor(element, english, isCovered) {
+        this.#element = element;
+        this.#english = english;
+        this.#isCovered = isCovered;
     }
 
     // Always new elements: an answer that is given twice is spoken twice.
     say(texts) {
-        const lines = texts.flatMap((text) => text.split("\r\n")).filter((line) => line !== "");
-        if (lines.length === 0) return;
-        this.element.replaceChildren(...lines.map((line) => Object.assign(document.createElement("p"), { textContent: line })));
+        this.#waiting.push(...texts.flatMap((text) => text.split("\r\n")).filter((line) => line !== ""));
+        if (this.#waiting.length === 0 || this.#isCovered()) return;
+        const lines = this.#waiting.splice(0).map((line) => this.#newLine(line));
+        this.#element.append(...lines);
+        setTimeout(() => lines.forEach((line) => line.remove()), Spoken);
+    }
+
+    #newLine(line) {
+        const element = document.createElement("p");
+        element.append(...this.#english.mark(line));
+        return element;
     }
 }

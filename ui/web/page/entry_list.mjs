@@ -1,8 +1,9 @@
 // A list box. In the desktop's layout it shows whole rows of one height; the style may set it in columns. A list whose focus the program
-// keeps follows the arrows at once, as on every desktop; where the program passes the focus on, arrows move a mark and Enter clicks the
-// marked entry.
+// keeps follows the arrows at once, as on every desktop; where the program passes the focus on, arrows and letters move a mark and Enter
+// clicks the marked entry.
 import { EventKind } from "./event_queue.mjs";
 import { markHidden } from "./hidden_parts.mjs";
+import { TypeAhead } from "./type_ahead.mjs";
 
 const RowHeight = 16;
 const TwipsPerPixel = 15;
@@ -15,6 +16,9 @@ export class EntryList {
     #entries = [];
     #selected = -1;
     #marked = 0;
+    #typeAhead = new TypeAhead();
+    #spoken;
+    #nothing;  // the entry that stands for none
 
     constructor(layout, place, desktop) {
         this.#desktop = desktop;
@@ -25,11 +29,16 @@ export class EntryList {
         this.#rows.className = "rows";
         this.#rows.tabIndex = 0;
         this.#rows.setAttribute("role", "listbox");
-        this.#rows.setAttribute("aria-label", layout.spoken);
+        this.#spoken = layout.spoken;
+        this.#nothing = layout.nothing;
+        this.#nameList();
         this.element.append(this.#rows);
         this.#rows.addEventListener("scroll", () => markHidden(this.#rows));
         new ResizeObserver(() => markHidden(this.#rows)).observe(this.#rows);
-        this.#rows.addEventListener("focusin", () => desktop.events.post(EventKind.Focus, place));
+        this.#rows.addEventListener("focusin", () => {
+            this.#typeAhead.stop();
+            desktop.events.post(EventKind.Focus, place);
+        });
         // A click leaves the focus where it is, because the program decides who gets it.
         this.#rows.addEventListener("mousedown", (event) => {
             if (event.target !== this.#rows) event.preventDefault();
@@ -44,6 +53,7 @@ export class EntryList {
     show(entries, selected) {
         if (entries.length !== this.#entries.length || entries.some((entry, index) => entry !== this.#entries[index])) {
             this.#entries = entries;
+            this.#nameList();
             this.#rows.replaceChildren(...entries.map((entry, index) => this.#newRow(entry, index)));
             this.#rows.scrollTop = 0;
             this.#marked = 0;
@@ -55,12 +65,20 @@ export class EntryList {
         this.#mark(selected >= 0 ? selected : this.#marked, selected >= 0);
     }
 
+    // A screen reader says nothing of a list's being empty.
+    #nameList() {
+        this.#rows.setAttribute("aria-label", this.#entries.length === 0 ? `${this.#spoken}: prázdný seznam` : this.#spoken);
+    }
+
     #newRow(entry, index) {
         const row = document.createElement("div");
         row.id = `row-${this.#place.form}-${this.#place.control}-${index}`;
         row.setAttribute("role", "option");
         row.setAttribute("aria-selected", "false");
         row.textContent = entry;
+        if (this.#desktop.english.has(entry)) row.lang = "en";
+        if (entry === "") row.setAttribute("aria-label", "bez názvu");
+        else if (entry === this.#nothing) row.setAttribute("aria-label", "nic");
         return row;
     }
 
@@ -103,17 +121,32 @@ export class EntryList {
         }
     }
 
+    // Moves the mark to the entry that begins with what is typed, and tells whether the key was meant for that. Right after a word with which
+    // nothing begins, Enter and the blank choose nothing, because the mark is not where the player means it to be.
+    #markTyped({ key, timeStamp }, character) {
+        const goesOn = this.#typeAhead.isTyping(timeStamp);
+        const wasLost = goesOn && this.#typeAhead.isLost;
+        if (key === "Enter" || key === " " && !goesOn) return wasLost;
+        if (character < 32) return false;
+        const found = this.#typeAhead.find(this.#entries, this.#marked, key, timeStamp);
+        if (found >= 0) this.#mark(found, true);
+        else if (key !== " ") this.#desktop.say(`„${this.#typeAhead.typed}“ tu není.`);
+        return found >= 0 || key !== " " || wasLost;
+    }
+
     keyDown(event, character) {
         const ownsFocus = this.#desktop.focused === this;
         const row = this.#rowUnderKey(event.key, ownsFocus ? this.#selected : this.#marked);
+        const isTyped = !ownsFocus && this.#markTyped(event, character);
         if (row >= 0) {
             if (ownsFocus) this.#click(row);
             else this.#mark(row, true);
         } else if (ownsFocus && character !== 0) {
             this.#desktop.events.post(EventKind.Key, this.#place, { number: character });
-        } else if (event.key === "Enter" || event.key === " ") {
+        } else if (!isTyped && ["Enter", " "].includes(event.key)) {
+            this.#typeAhead.stop();
             this.#click(Math.min(this.#marked, this.#entries.length - 1));
-        } else {
+        } else if (!isTyped) {
             return false;
         }
         event.preventDefault();

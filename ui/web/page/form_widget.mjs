@@ -3,6 +3,7 @@ import { EntryList } from "./entry_list.mjs";
 import { InputLine } from "./input_line.mjs";
 import { LabelArea } from "./label_area.mjs";
 import { OutputView } from "./output_view.mjs";
+import { newEnglish } from "./spoken_words.mjs";
 
 const Kinds = { OutputView, InputLine, EntryList, LabelArea };
 
@@ -20,6 +21,7 @@ function dress(element, layout) {
 export class FormWidget {
     #desktop;
     #picture = "";
+    #task = document.createTextNode("");  // what a panel was opened for
     #pictured;
     // Fulfilled when its picture has come.
     pictured = new Promise((pictured) => { this.#pictured = pictured; });
@@ -30,22 +32,41 @@ export class FormWidget {
         this.element.id = layout.name;
         this.element.className = layout.backdrop ? "form backdrop" : layout.framed ? "form main" : "form panel";
         this.element.hidden = true;
-        if (!layout.backdrop) this.element.setAttribute("aria-label", layout.caption);
-        // The windows behind a panel are inert. It has no aria-modal, because screen readers would then leave out the announcer, which
-        // lies outside of it.
-        if (this.element.classList.contains("panel")) this.element.setAttribute("role", "dialog");
+        this.isPanel = !layout.backdrop && !layout.framed;
+        if (layout.framed) this.element.setAttribute("aria-label", layout.caption);
+        if (this.isPanel) this.#giveTitle(layout.caption);
         dress(this.element, layout);
         this.controls = layout.controls.map((each, control) => new Kinds[each.kind](each, { form, control }, desktop));
         this.controls.forEach((control, index) => {
             control.element.id = `${layout.name}.${layout.controls[index].name}`;
             control.element.classList.add("control");
             dress(control.element, layout.controls[index]);
+            if (control.takesClicks) this.controls[index - 1].captionButton(control);
         });
         // A new sentence begins at the top of the lists.
         for (const line of this.controls.filter((control) => control.isReadOnly)) {
             line.onEmpty = () => this.controls.forEach((control) => control.rewind?.());
         }
         this.element.append(...this.controls.map((control) => control.element));
+    }
+
+    // For a screen reader, which reads it when the panel opens. The windows behind a panel are inert; it has no aria-modal, because screen
+    // readers would then leave out the announcer, which lies outside of it.
+    #giveTitle(caption) {
+        const title = Object.assign(document.createElement("h2"), { id: `${this.element.id}-title`, className: "unseen" });
+        title.append(newEnglish(caption), this.#task);
+        this.element.setAttribute("role", "dialog");
+        this.element.setAttribute("aria-labelledby", title.id);
+        this.element.append(title);
+    }
+
+    // The sentence that is being built in it.
+    get sentence() {
+        return this.controls.find((control) => control.isReadOnly).text;
+    }
+
+    get lamp() {
+        return this.controls.find((control) => control.lamp).lamp;
     }
 
     // What its boxes and labels have to say since they were last asked.
@@ -63,7 +84,9 @@ export class FormWidget {
         this.controls.forEach((control) => { control.element.inert = !(control instanceof OutputView); });
     }
 
-    show(visible, reachable, picture) {
+    // `sentence` is the one that is being carried out. It tells a panel for loading from one for saving.
+    show(visible, reachable, picture, sentence) {
+        if (visible && this.element.hidden) this.#task.data = `: ${sentence}`;
         this.element.hidden = !visible;
         this.element.inert = !reachable;
         if (this.#picture === picture) return;

@@ -3,6 +3,7 @@
 // characters; they are joined, because the program knows the joined ones alone.
 import { Caret } from "./caret.mjs";
 import { EventKind } from "./event_queue.mjs";
+import { newEnglish, newUnseen } from "./spoken_words.mjs";
 
 export class InputLine {
     #desktop;
@@ -36,8 +37,12 @@ export class InputLine {
 
     // Shown where the pointer is a finger.
     #newTouchKey({ caption, text, key, spoken }) {
-        const button = Object.assign(document.createElement("button"), { type: "button", className: "touch-key", textContent: caption });
-        button.setAttribute("aria-label", spoken);
+        const button = Object.assign(document.createElement("button"), { type: "button", className: "touch-key" });
+        const seen = newEnglish(caption);
+        seen.setAttribute("aria-hidden", "true");
+        const heard = newUnseen("");
+        heard.append(...this.#desktop.english.mark(spoken));
+        button.append(seen, heard);
         button.addEventListener("mousedown", (event) => event.preventDefault());  // the focus stays where it is
         button.addEventListener("click", () => {
             if (text !== "") this.#desktop.events.post(EventKind.Edit, this.#place, { before: text });
@@ -48,6 +53,10 @@ export class InputLine {
 
     get isReadOnly() {
         return this.#input.readOnly;
+    }
+
+    get text() {
+        return this.#shown.text;
     }
 
     // The browser's caret cannot be given a width and a height, so this one stands in an invisible copy of the text.

@@ -1,5 +1,6 @@
 // Keys go to the control that the player stands in, and what that does not want to the one that has the focus in the program. Whether the
-// browser is to act on a key must be said at once, before the program has heard of it.
+// browser is to act on a key must be said at once, before the program has heard of it. In the command line Escape ends the game, so
+// elsewhere it only leads back there.
 
 // The character that the key types (Backspace, Enter and Escape are characters too); 0 for keys that only move about.
 function characterOf(event) {
@@ -17,13 +18,23 @@ function isShortcut(event) {
     return (event.ctrlKey || event.metaKey || event.altKey) && !event.getModifierState("AltGraph");
 }
 
+// The style shows where the focus is also in a line, to a player who goes about by Tab.
+function noteTabbing() {
+    const { classList } = document.documentElement;
+    document.addEventListener("keydown", ({ key }) => { if (key === "Tab") classList.add("by-keyboard"); });
+    document.addEventListener("pointerdown", () => classList.remove("by-keyboard"));
+}
+
 export function listenToKeys(desktop, messageBox) {
+    noteTabbing();
     document.addEventListener("keydown", (event) => {
         // Held, these are one wish: what they brought has not been read yet.
         if (event.repeat && ["Enter", "Escape"].includes(event.key)) return event.preventDefault();
         if (event.isComposing || isShortcut(event) || document.querySelector("dialog[open]")) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);
         const here = desktop.controlAround(document.activeElement);
+        const isAway = here !== desktop.focused || document.activeElement.matches("button");
+        if (event.key === "Escape" && isAway) return desktop.focused?.focus();
         if (here === null && document.activeElement !== document.body) return;  // outside of the windows
         const character = characterOf(event);
         if (here?.keyDown(event, character) || here === desktop.focused) return;

@@ -10,7 +10,7 @@
 
     // The reasons are those that index.html has a sentence for.
     function show(reason, address) {
-        var sentences = document.querySelectorAll("#trouble > p[id]");
+        var sentences = document.querySelectorAll("#trouble p[id]");
         var names = document.querySelectorAll("#trouble .file");
         var again = document.getElementById("try-again");
         for (var i = 0; i < sentences.length; ++i) sentences[i].hidden = sentences[i].id !== "trouble-" + reason;

@@ -41,7 +41,6 @@ export class PageMenu {
     #address = "";  // of what was downloaded last
     #asking = null;
     #told = wasTold();
-    #header = newElement("header", { id: "page-menu" });
     #line;
     #where = newElement("p");
     #list = newElement("ul", { id: "saved-games" });
@@ -66,8 +65,9 @@ export class PageMenu {
         open.id = "open-saved-games";
         open.addEventListener("mousedown", (event) => event.preventDefault());  // the focus stays in the game
         this.#answers.setAttribute("role", "status");
-        this.#header.append(open, this.#line.element);
-        document.body.prepend(this.#header);
+        this.#question.setAttribute("role", "alertdialog");
+        this.#question.setAttribute("aria-labelledby", "question-text");
+        document.getElementById("page-menu").append(open, this.#line.element);
 
         const title = newElement("h2", { id: "saved-games-title", textContent: "Uložené pozice" });
         this.#dialog.setAttribute("aria-labelledby", title.id);
@@ -115,8 +115,19 @@ export class PageMenu {
             "zálohou je stažený soubor.";
         const names = this.#savedGames.names();
         this.#all.disabled = names.length === 0;
-        this.#list.replaceChildren(...names.map((name) => this.#newRow(name)));
-        if (names.length === 0) this.#list.append(newElement("li", { textContent: "Zatím tu žádná není." }));
+        this.#keepFocus(() => {
+            this.#list.replaceChildren(...names.map((name) => this.#newRow(name)));
+            if (names.length === 0) this.#list.append(newElement("li", { textContent: "Zatím tu žádná není." }));
+        });
+    }
+
+    // A button that is made anew has the focus again; if its saved game is gone, the one in its place has it.
+    #keepFocus(renew) {
+        const place = [...this.#list.querySelectorAll("button")].indexOf(document.activeElement);
+        renew();
+        if (place < 0) return;
+        const buttons = [...this.#list.querySelectorAll("button")];
+        (buttons[Math.min(place, buttons.length - 1)] ?? this.#dialog).focus();
     }
 
     #forgetHint() {
@@ -170,20 +181,23 @@ export class PageMenu {
         this.#answers.append(newElement("p", { textContent: sentence }));
     }
 
-    // One question at a time: a newer one, or closing the dialog, answers the older with no.
+    // One question at a time: a newer one, or closing the dialog, answers the older with no. So does Enter, because a player who presses it
+    // twice has not heard the question.
     #ask(question, yes, no) {
         this.#asking?.(false);
+        const asked = document.activeElement;
         return new Promise((resolve) => {
             this.#asking = (answer) => {
                 this.#asking = null;
                 this.#question.hidden = true;
-                this.#dialog.focus();
+                (this.#dialog.contains(asked) ? asked : this.#dialog).focus();  // its button may have been made anew meanwhile
                 resolve(answer);
             };
-            const confirm = newButton(yes, () => this.#asking?.(true));
-            this.#question.replaceChildren(newElement("p", { textContent: question }), confirm, newButton(no, () => this.#asking?.(false)));
+            const refuse = newButton(no, () => this.#asking?.(false));
+            const text = newElement("p", { id: "question-text", textContent: question });
+            this.#question.replaceChildren(text, newButton(yes, () => this.#asking?.(true)), refuse);
             this.#question.hidden = false;
-            confirm.focus();
+            refuse.focus();
         });
     }
 }
