@@ -1,6 +1,6 @@
-// Keys go to the control that the player stands in, and what that does not want to the one that has the focus in the program. Whether the
-// browser is to act on a key must be said at once, before the program has heard of it. In the command line Escape ends the game, so
-// elsewhere it only leads back there.
+// Gives each key to the control that has the keyboard's focus. A key that this control does not use goes to the control that has the focus in
+// the program. The browser must be told at once whether it may act on a key, before the program has heard of it. Escape ends the game in the
+// command line, so everywhere else it only leads back there.
 
 // The character that the key types (Backspace, Enter and Escape are characters too); 0 for keys that only move about.
 function characterOf(event) {
@@ -18,7 +18,7 @@ function isShortcut(event) {
     return (event.ctrlKey || event.metaKey || event.altKey) && !event.getModifierState("AltGraph");
 }
 
-// The style shows where the focus is also in a line, to a player who goes about by Tab.
+// Lets the style mark the line that has the focus, too, for a player who moves by Tab.
 function noteTabbing() {
     const { classList } = document.documentElement;
     document.addEventListener("keydown", ({ key }) => { if (key === "Tab") classList.add("by-keyboard"); });
@@ -28,7 +28,8 @@ function noteTabbing() {
 export function listenToKeys(desktop, messageBox) {
     noteTabbing();
     document.addEventListener("keydown", (event) => {
-        // Held, these are one wish: what they brought has not been read yet.
+        // Browsers report a key again and again while it is held. A held Enter or Escape is one wish, because the player has not read yet what
+        // it brought.
         if (event.repeat && ["Enter", "Escape"].includes(event.key)) return event.preventDefault();
         if (event.isComposing || isShortcut(event) || document.querySelector("dialog[open]")) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);

@@ -1,5 +1,5 @@
-// The page's own line, outside of the game's windows: sentences that stand there for as long as they are true, each about a topic of its own,
-// and one that passes with the player's next command.
+// The page's own line, outside of the game's windows. A standing sentence, one about each topic, stays for as long as it is true; the passing
+// one goes with the player's next command.
 
 function newSentence(id) {
     return Object.assign(document.createElement("p"), { id });
@@ -23,7 +23,7 @@ export class NoticeLine {
         this.#announcer.say([sentence]);
     }
 
-    // Takes away what was said to pass.
+    // Takes the passing sentence away.
     pass() {
         if (this.#passing.textContent !== "") this.#passing.textContent = "";
     }
