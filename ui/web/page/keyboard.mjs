@@ -28,8 +28,8 @@ function noteTabbing() {
 export function listenToKeys(desktop, messageBox) {
     noteTabbing();
     document.addEventListener("keydown", (event) => {
-        // Browsers report a key again and again while it is held. A held Enter or Escape is one wish, because the player has not read yet what
-        // it brought.
+        // Browsers report a key again and again while it is held. A held Enter or Escape is one wish, because the player has not read yet
+        // what it brought.
         if (event.repeat && ["Enter", "Escape"].includes(event.key)) return event.preventDefault();
         if (event.isComposing || isShortcut(event) || document.querySelector("dialog[open]")) return;
         if (messageBox.isOpen) return messageBox.keyDown(event);
