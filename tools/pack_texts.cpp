@@ -43,9 +43,9 @@ std::vector<std::uint8_t> Encode(std::string_view utf8) {
     return codes;
 }
 
-// Any key serves; neighbours get keys far apart, so that no letter looks the same in two texts.
-std::uint16_t LineKey(std::size_t number) {
-    return static_cast<std::uint16_t>(number * 40503U + 9973U);
+// Any key serves; neighbours get keys far apart.
+std::uint16_t LineKey(std::size_t number, Keys keys) {
+    return static_cast<std::uint16_t>((keys == Keys::Own ? number : 1) * 40503U + 9973U);
 }
 
 std::size_t LeadingNumber(std::string_view& line) {
@@ -58,7 +58,7 @@ std::size_t LeadingNumber(std::string_view& line) {
     return number;
 }
 
-void PackLine(std::string_view line, std::vector<std::uint16_t>& words) {
+void PackLine(std::string_view line, Keys keys, std::vector<std::uint16_t>& words) {
     const std::size_t expected = words.front() + std::size_t{1};
     const std::size_t number = LeadingNumber(line);
     if (number != expected) {
@@ -70,7 +70,7 @@ void PackLine(std::string_view line, std::vector<std::uint16_t>& words) {
     if (codes.size() > MostWords) {
         throw PackingError("the text has " + std::to_string(codes.size()) + " characters, at most " + std::to_string(MostWords) + " fit");
     }
-    const std::uint16_t key = LineKey(number);
+    const std::uint16_t key = LineKey(number, keys);
     words.front() = static_cast<std::uint16_t>(number);
     words.push_back(static_cast<std::uint16_t>(codes.size()));
     words.push_back(key);
@@ -79,14 +79,14 @@ void PackLine(std::string_view line, std::vector<std::uint16_t>& words) {
 
 }  // namespace
 
-std::vector<std::uint16_t> PackTexts(std::string_view source, std::string_view name) {
+std::vector<std::uint16_t> PackTexts(std::string_view source, std::string_view name, Keys keys) {
     std::vector<std::uint16_t> words{0};
     for (std::size_t lineNumber = 1; !source.empty(); ++lineNumber) {
         const std::string_view line = source.substr(0, source.find('\n'));
         source.remove_prefix(std::min(source.size(), line.size() + 1));
         if (line.empty() || line.starts_with('#')) continue;
         try {
-            PackLine(line, words);
+            PackLine(line, keys, words);
         } catch (const PackingError& error) {
             throw PackingError(std::string(name) + ":" + std::to_string(lineNumber) + ": " + error.what());
         }

@@ -15,7 +15,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Every text hides behind a key. With keys of their own, no letter looks the same in two texts; with one key for all of them, a server's
+// compression makes the file half as large.
+enum class Keys { Own, Shared };
+
 // The 16-bit words of the packed file. The same source always gives the same words.
-std::vector<std::uint16_t> PackTexts(std::string_view source, std::string_view name);
+std::vector<std::uint16_t> PackTexts(std::string_view source, std::string_view name, Keys keys = Keys::Own);
 
 }  // namespace tools

@@ -1,9 +1,11 @@
-// pack_texts SOURCE TARGET: packs the story; ends with 1 and the reason on standard error, the target untouched, when it cannot.
+// pack_texts SOURCE TARGET [--one-key]: packs the story; ends with 1 and the reason on standard error, the target untouched, when it
+// cannot.
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <string_view>
 
 #include "tools/pack_texts.h"
 
@@ -24,12 +26,13 @@ void WriteWords(const std::filesystem::path& path, const std::vector<std::uint16
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: pack_texts SOURCE TARGET\n";
+    const bool oneKey = argc == 4 && std::string_view(argv[3]) == "--one-key";
+    if (argc != 3 && !oneKey) {
+        std::cerr << "usage: pack_texts SOURCE TARGET [--one-key]\n";
         return 1;
     }
     try {
-        WriteWords(argv[2], tools::PackTexts(ReadFile(argv[1]), argv[1]));
+        WriteWords(argv[2], tools::PackTexts(ReadFile(argv[1]), argv[1], oneKey ? tools::Keys::Shared : tools::Keys::Own));
     } catch (const tools::PackingError& error) {
         std::cerr << error.what() << '\n';
         return 1;

@@ -34,10 +34,10 @@ std::string Text(int number) {
     return number == 1 ? "" : std::string(static_cast<std::size_t>(number % 3), '~') + "Žlutý kůň ˙";
 }
 
-std::vector<std::uint16_t> Packed() {
+std::vector<std::uint16_t> Packed(tools::Keys keys = tools::Keys::Own) {
     std::string source = "# for writers\n\n";
     for (int number = 1; number <= LastText; ++number) source += std::to_string(number) + ": " + Text(number) + "\n";
-    return tools::PackTexts(source, "texts.txt");
+    return tools::PackTexts(source, "texts.txt", keys);
 }
 
 TEST(PackedTexts, ComeBackByTheirNumbersAndAreHiddenByKeysOfTheirOwn) {
@@ -51,7 +51,11 @@ TEST(PackedTexts, ComeBackByTheirNumbersAndAreHiddenByKeysOfTheirOwn) {
     }
     EXPECT_TRUE(wrapped);  // a code plus its key exceeded 16 bits
     EXPECT_GT(keys.size(), 200);
-    for (int number = 1; number <= LastText; ++number) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), Text(number));
+    const TextStore behindOneKey = Decoded(Packed(tools::Keys::Shared));
+    for (int number = 1; number <= LastText; ++number) {
+        EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), Text(number));
+        EXPECT_EQ(behindOneKey.Text(static_cast<TextNumber>(number)), Text(number));
+    }
     for (const int number : {-1, 0, LastText + 1}) EXPECT_EQ(texts.Text(static_cast<TextNumber>(number)), std::nullopt);
 }
 
