@@ -2,15 +2,15 @@
 //
 //     npm ci --prefix tests/web && node bench/web/page.mjs [SITE]
 //
-// Cold starts of both in turns, the answer to a click and to Enter with few lines in the box and with many, what a first visit fetches, the
-// memory after the whole winning game, and what goes on at idle. The figures are medians.
+// Cold starts of both in turns, over networks of three kinds, the answer to a click and to Enter with few lines in the box and with many, what
+// a first visit fetches, the memory after the whole winning game, and what goes on at idle. The figures are medians.
+import { execFileSync } from "node:child_process";
 import { readFileSync, statSync } from "node:fs";
 import { mkdtemp, rm } from "node:fs/promises";
 import http from "node:http";
 import { tmpdir } from "node:os";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
-import { gzipSync } from "node:zlib";
 import { launch } from "../../tests/web/browser.mjs";
 import { Player } from "../../tests/web/player.mjs";
 
@@ -19,6 +19,12 @@ const Site = path.resolve(process.argv[2] ?? `${Root}build/web/site`);
 const SingleFile = path.join(Site, "../orvel-tavoren.html");
 const Bare = `${Root}bench/web/bare`;
 const Starts = 15;
+// Chromium's own brakes: the latency stands before the answer to each request, the setting up of connections is free.
+const Networks = [
+    { name: "loopback, 1280 x 800", width: 1280, height: 800 },
+    { name: "40 ms, 10 Mbit/s, 1280 x 800", width: 1280, height: 800, latency: 40, megabits: 10 },
+    { name: "150 ms, 1.6 Mbit/s, processor / 4, 390 x 844", width: 390, height: 844, latency: 150, megabits: 1.6, slowdown: 4 },
+];
 const Clicks = 20;
 const Idle = 15;  // seconds
 const Lines = [10, 1930];  // in the box when its answers begin to be timed; past 2,000 the game empties it
@@ -27,38 +33,42 @@ const Types = { ".html": "text/html", ".js": "text/javascript", ".css": "text/cs
 
 const pause = (milliseconds) => new Promise((over) => { setTimeout(over, milliseconds); });
 const median = (figures) => figures.toSorted((a, b) => a - b)[figures.length >> 1];
+const packedFiles = new Map();
+
+function packed(file) {
+    // node's own gzip leaves some files a fifth longer than servers do.
+    if (!packedFiles.has(file)) packedFiles.set(file, execFileSync("gzip", ["-9c", file]));
+    return packedFiles.get(file);
+}
+
 const row = (...cells) => console.log(`| ${cells.join(" | ")} |`);
 
-// Serves the folder; `fetched` takes the files that were asked for.
+// Serves the folder, packed as servers do; `fetched` takes the files that were asked for.
 async function serve(folder) {
     const fetched = new Set();
     const server = http.createServer((request, response) => {
         const file = path.join(folder, request.url.endsWith("/") ? `${request.url}index.html` : request.url);
         const found = statSync(file, { throwIfNoEntry: false })?.isFile();
-        if (found) fetched.add(file);
-        response.writeHead(found ? 200 : 404, { "content-type": Types[path.extname(file)] ?? "application/octet-stream" });
-        response.end(found ? readFileSync(file) : "");
+        if (!found) return response.writeHead(404).end();
+        fetched.add(file);
+        response.writeHead(200, { "content-type": Types[path.extname(file)] ?? "application/octet-stream", "content-encoding": "gzip" });
+        response.end(packed(file));
     });
     await new Promise((listening) => { server.listen(0, "127.0.0.1", listening); });
     return { server, fetched, address: `http://127.0.0.1:${server.address().port}/` };
 }
 
-// Runs in the page before its scripts.
+// Run in the page before its scripts.
 function notePaints() {
     window.paints = [];
     const note = (list) => paints.push(...list.getEntries().map(({ startTime, url }) => ({ time: startTime, url: url ?? "" })));
     for (const type of ["paint", "largest-contentful-paint"]) new PerformanceObserver(note).observe({ type, buffered: true });
 }
 
-function noteReadiness() {
-    addEventListener("DOMContentLoaded", () => {
-        const form = () => document.querySelector("#Form1:not([hidden])");
-        const observer = new MutationObserver(() => {
-            if (!form()) return;
-            window.readyTime = performance.now();
-            observer.disconnect();
-        });
-        observer.observe(document.body, { subtree: true, childList: true, attributes: true });
+function notePlaying() {
+    addEventListener("playing", () => {
+        window.playingTime = performance.now();
+        console.debug("playing");
     });
 }
 
@@ -71,38 +81,49 @@ function noteMemory() {
     };
 }
 
-// A tab of a browser that has nothing of an earlier one.
-async function openCold(browser, address, isGame) {
+async function throttle(page, { latency, megabits, slowdown = 1 }) {
+    const client = await page.createCDPSession();
+    if (latency) {
+        const throughput = megabits * 1e6 / 8;
+        await client.send("Network.emulateNetworkConditions", { offline: false, latency, downloadThroughput: throughput, uploadThroughput: throughput });
+    }
+    await client.send("Emulation.setCPUThrottlingRate", { rate: slowdown });
+}
+
+// A tab of a browser that has nothing of an earlier one. Nothing looks into the page while it starts, because that would be measured too.
+async function openCold(browser, address, isGame, network = Networks[0]) {
     const context = await browser.createBrowserContext();
     const page = await context.newPage();
-    await page.setViewport({ width: 1280, height: 800 });
-    for (const note of [notePaints, noteReadiness, noteMemory]) await page.evaluateOnNewDocument(note);
+    const isPhone = network.width < network.height;
+    await page.setViewport({ width: network.width, height: network.height, hasTouch: isPhone, isMobile: isPhone });
+    await throttle(page, network);
+    for (const note of [notePaints, notePlaying, noteMemory]) await page.evaluateOnNewDocument(note);
+    const playing = new Promise((plays) => { page.on("console", (message) => message.text() === "playing" && plays()); });
     await page.goto(address);
-    await pause(1000);  // what looks into the page while it starts would be measured too
-    if (isGame) await page.waitForSelector("#Form1:not([hidden])");
+    if (isGame) await playing;
+    await pause(500);
     return { page, context };
 }
 
-async function measureStart(browser, address, picture) {
-    const { page, context } = await openCold(browser, address, picture !== "");
-    const { paints, readyTime } = await page.evaluate(() => ({ paints: window.paints, readyTime: window.readyTime }));
+async function measureStart(browser, address, isGame, network) {
+    const { page, context } = await openCold(browser, address, isGame, network);
+    const { paints, playingTime } = await page.evaluate(() => ({ paints: window.paints, playingTime: window.playingTime }));
     await context.close();
-    return { painted: Math.min(...paints.filter(({ url }) => url.endsWith(picture)).map(({ time }) => time)), ready: readyTime };
+    const painted = paints.filter(({ url }) => !isGame || url.endsWith("title.webp")).map(({ time }) => time);
+    return { painted: Math.min(...painted), playing: playingTime };
 }
 
-async function measureStarts(browser, game, bare) {
-    const painted = { game: [], bare: [] };
-    const ready = [];
+async function measureStarts(browser, game, bare, network) {
+    const times = { line: [], title: [], playing: [] };
     for (let start = 0; start < Starts; ++start) {
-        const ours = await measureStart(browser, game, "title.webp");
-        painted.game.push(ours.painted);
-        ready.push(ours.ready);
-        painted.bare.push((await measureStart(browser, bare, "")).painted);
+        const { painted, playing } = await measureStart(browser, game, true, network);
+        times.title.push(painted);
+        times.playing.push(playing);
+        times.line.push((await measureStart(browser, bare, false, network)).painted);
     }
-    const line = median(painted.bare);
-    const cells = (figures) => [`${median(figures).toFixed(0)} ms`, `${line.toFixed(0)} ms`, (median(figures) / line).toFixed(2)];
-    row("navigation to the title painted", ...cells(painted.game));
-    row("navigation to a game that hears keys", ...cells(ready));
+    const [line, title, playing] = [times.line, times.title, times.playing].map(median);
+    const cell = (time) => `${time.toFixed(0)} ms: ${(time / line).toFixed(2)}`;
+    row(network.name, `${line.toFixed(0)} ms`, cell(title), cell(playing));
 }
 
 // Runs in the page: how long it takes from an event until what it brings stands in the page and is laid out.
@@ -210,11 +231,11 @@ async function measureIdle(browser, address) {
 }
 
 function reportSizes(fetched) {
-    const packed = (files) => files.reduce((bytes, file) => bytes + gzipSync(readFileSync(file), { level: 9 }).length, 0);
+    const sum = (files) => files.reduce((bytes, file) => bytes + packed(file).length, 0);
     const cell = (bytes) => `${(bytes / 1024).toFixed(0)} KiB`;
     const files = [...fetched];
-    row("first visit, gzipped", cell(packed(files)), `${files.length} files`);
-    row("of which program and scripts", cell(packed(files.filter((file) => /\.(js|wasm)$/.test(file)))));
+    row("first visit, gzipped", cell(sum(files)), `${files.length} files`);
+    row("of which program and scripts", cell(sum(files.filter((file) => /\.(js|wasm)$/.test(file)))));
     row("the one file", cell(statSync(SingleFile).size));
 }
 
@@ -226,7 +247,8 @@ try {
     await page.evaluate(async () => { await navigator.serviceWorker.ready; });
     await context.close();
     reportSizes(game.fetched);
-    await measureStarts(browser, game.address, bare.address);
+    row("cold start", "one line painted", "the title painted", "playable");
+    for (const network of Networks) await measureStarts(browser, game.address, bare.address, network);
     await measureAnswers(browser, game.address);
     await measureMemory(browser, game.address);
     await measureIdle(browser, game.address);
