@@ -114,7 +114,7 @@ export class Browser {
             });
         });
         await tab.evaluateOnNewDocument(prepare);
-        await tab.goto(address);
+        await tab.goto(address, { waitUntil: "domcontentloaded" });
         await tab.waitForSelector(shows);
         return tab;
     }

@@ -23,7 +23,7 @@ STAYS = re.compile(r"index\.html|worker\.js|manifest\.webmanifest|icon-.*\.png")
 # Not kept for play without a network: a browser fetches the large icons only to install the page. The smaller icon is kept, because the
 # browser asks for it on every visit.
 NOT_KEPT = re.compile(r"worker\.js|icon-(512|maskable-512)\.png")
-NEEDED_AT_THE_START = ("engine.wasm", "texs.dat")
+NEEDED_AT_THE_START = ("game.js", "engine.wasm", "texs.dat", "pics/title.webp")
 FORMATS = {".webp": "image/webp", ".png": "image/png", ".woff2": "font/woff2"}
 
 
@@ -47,10 +47,10 @@ def with_style(page, style):
     return replace_once(page, '<link rel="stylesheet" href="style.css">', f"<style>{style}</style>")
 
 
-def with_loader(page, script, data):
-    """The loader stands in the page too, because the whole game waits for it; `data` are the attributes that say what it fetches."""
+def with_loader(page, script):
+    """The loader stands in the page too, because the whole game waits for it."""
     page = replace_once(page, "script-src ", f"script-src '{sha256(script.encode())}' ")
-    return replace_once(page, '<script src="loader.js"></script>', f"<script{data}>{script}</script>")
+    return re.sub(r'<script src="loader.js"([^>]*)>', lambda found: f"<script{found[1]}>{script}", page)
 
 
 def style_of(parts, address):
@@ -62,9 +62,10 @@ def style_of(parts, address):
 def with_addresses(page, parts, version):
     """The page with the addresses of a version."""
     page = with_style(page, style_of(parts, lambda name: f"{version}/{name}"))
-    needs = " ".join(f"{version}/{name}" for name in NEEDED_AT_THE_START)
-    page = with_loader(page, parts["loader.js"].decode(), f' data-game="{version}/game.js" data-needs="{needs}"')
-    return replace_once(page, '"pics/title.webp"', f'"{version}/pics/title.webp"')
+    page = with_loader(page, parts["loader.js"].decode())
+    for name in NEEDED_AT_THE_START:
+        page = replace_once(page, f'"{name}"', f'"{version}/{name}"')
+    return page
 
 
 def make_site(parts, site):
@@ -104,8 +105,9 @@ def make_file(parts, result):
               f"style-src 'self'; img-src data:; font-src data:; base-uri 'none'; form-action 'none'")
     page = parts["index.html"].decode()
     page = with_style(re.sub(r"default-src 'none';[^\"]*", lambda _: policy, page, count=1), style)
-    page = with_loader(page, parts["loader.js"].decode(), "")
-    page = re.sub(r'<link rel="(manifest|apple-touch-icon)".*\n', "", page)
+    page = with_loader(page, parts["loader.js"].decode())
+    page = re.sub(r'<link rel="(manifest|apple-touch-icon|preload)".*\n', "", page)
+    page = replace_once(page, ' data-game="game.js" data-story="texs.dat"', "")
     page = re.sub(r'<(img id="title"|p id="trouble-folder").*\n', "", page)
     page = re.sub(r'(<p id="trouble-incomplete" hidden>).*?(</p>)',
                   r"\1Soubor s hrou je neúplný nebo poškozený. Stáhněte ho prosím znovu.\2", page)

@@ -47,7 +47,6 @@ EM_JS(void, page_show_notice, (const char* sentence, int size), { Module.desktop
 EM_JS(void, page_say_the_end, (), { Module.desktop.sayTheEnd(); })
 EM_JS(void, page_say_the_story_is_damaged, (), { Module.desktop.sayTheStoryIsDamaged(); })
 EM_JS(int, page_count_output_lines, (int form, int control), { return Module.desktop.control(form, control).countLines(); })
-EM_JS(int, page_has_arial, (), { return Module.desktop.hasArial ? 1 : 0; })
 EM_JS(void, page_offer_game, (const void* game), { Module.desktop.game = game; })
 EM_JS(void, page_answer_inspection, (const char* finding, int findingSize, const char* name, int size), {
     Module.desktop.inspection = { finding: UTF8ToString(finding, findingSize), name: UTF8ToString(name, size) };
@@ -168,10 +167,6 @@ void SayTheStoryIsDamaged() {
 
 std::size_t CountOutputLines(Place place) {
     return static_cast<std::size_t>(page_count_output_lines(place.Form, place.Control));
-}
-
-bool HasArial() {
-    return page_has_arial() != 0;
 }
 
 void OfferGame(const void* game) {

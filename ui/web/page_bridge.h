@@ -57,8 +57,6 @@ void SayTheStoryIsDamaged();
 
 // Lines as the output box displays them, wrapped ones counted each.
 std::size_t CountOutputLines(Place place);
-// Whether the page has Arial or a font with the same metrics.
-bool HasArial();
 
 // Gives the page the address of the running game, which it passes to the exported functions of app/web.cpp until SayTheEnd.
 void OfferGame(const void* game);

@@ -31,10 +31,9 @@ export class Desktop {
     #focusPlace = "";
     #lastStand = null;  // the element of the game's windows that had the focus last
 
-    constructor(stage, files, hasArial) {
+    constructor(stage, files) {
         this.#stage = stage;
         this.files = files;
-        this.hasArial = hasArial;
         this.events = new EventQueue();
         this.english = new EnglishWords();
         this.#messageBox = new MessageBox(this.events);

@@ -1,9 +1,9 @@
-// Fetches the game when its title stands on the screen, and says in its place why there is none. A script for browsers of any age, so that
+// Runs the game when its title stands on the screen, and says in its place why there is none. A script for browsers of any age, so that
 // those too old for the game are told as well.
 (function () {
     var own = document.currentScript;
-    var game = own.getAttribute("data-game");  // the address of its script; in the page in one file there is none
-    var needs = (own.getAttribute("data-needs") || "").split(" ");  // what that script asks for first, beside it
+    var game = own.getAttribute("data-game");  // the address of its script; the page in one file has it inside
+    var title = document.getElementById("title");
     var asked = false;
     var started = false;
     var enterPressed = false;
@@ -46,25 +46,26 @@
         return parent.appendChild(element);
     }
 
-    // Everything that the game starts with is on its way at once; nothing of it waits for a script that would ask for it.
-    function fetchGame() {
-        add(document.head, "link", { rel: "modulepreload", href: game });
-        for (var i = 0; i < needs.length; ++i) add(document.head, "link", { rel: "preload", as: "fetch", crossorigin: "", href: needs[i] });
-        // By the second frame the first one, with the title in it, is on the screen.
-        requestAnimationFrame(function () { requestAnimationFrame(runGame); });
-    }
-
     function runGame() {
         var script = add(document.body, "script", { type: "module", src: game });
         script.onload = script.onerror = checkStart;
     }
 
-    function askForGame() {
+    // The program, the largest part of the game, is on its way since the page's head. All else comes behind the title, to which more would
+    // leave too little of a slow network.
+    function fetchGame() {
         if (asked) return;
         asked = true;
-        if (isOld()) show("old");
-        else if (game) fetchGame();
-        else checkStart();  // it came with the page
+        add(document.head, "link", { rel: "modulepreload", href: game });
+        add(document.head, "link", { rel: "preload", as: "fetch", crossorigin: "", href: own.getAttribute("data-story") });
+        // By the second frame the first one, with the title in it, is on the screen.
+        requestAnimationFrame(function () { requestAnimationFrame(runGame); });
+    }
+
+    function awaitTitle() {
+        if (title.complete) return fetchGame();
+        title.onload = title.onerror = fetchGame;
+        setTimeout(fetchGame, 5000);  // a picture that does not come keeps nobody from playing
     }
 
     // The player may press Enter at the title before the game is there to hear it. One that is held repeats, and was meant for something
@@ -80,7 +81,7 @@
     });
     window.addEventListener("starting", function () { started = true; });
     window.addEventListener("trouble", function (event) { show(event.detail.reason, event.detail.address); });
-    window.addEventListener("load", askForGame);
-    // A picture that does not come keeps nobody from playing.
-    if (game) setTimeout(askForGame, 5000);
+    if (isOld()) show("old");
+    else if (game) awaitTitle();
+    else window.addEventListener("load", checkStart);
 })();

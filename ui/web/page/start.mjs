@@ -8,7 +8,6 @@ import { Records } from "./records.mjs";
 import { keepRunningGame } from "./resuming.mjs";
 import { SavedGames } from "./saved_games.mjs";
 import { SavesFolder } from "./saves_folder.mjs";
-import { loadTextFace } from "./text_face.mjs";
 import { Trouble, showTrouble, watchProgram } from "./trouble.mjs";
 import { askBeforeLeaving } from "./unsaved_steps.mjs";
 
@@ -22,12 +21,16 @@ async function takeTitleAway(desktop) {
     requestAnimationFrame(() => setTimeout(() => title?.remove()));
 }
 
+// On their way while the program starts, but not before it is here. Where they do not come, another face is shown.
+function fetchFaces() {
+    for (const weight of ["normal", "bold"]) document.fonts.load(`${weight} 13px "Orvel Sans"`, "ř").catch((error) => console.warn(error));
+}
+
 async function run(files) {
     if (typeof WebAssembly === "undefined") throw new Trouble("webassembly");
-    const face = loadTextFace();
     const [program, story] = await Promise.all([files.fetchProgram("engine.wasm"), files.fetchBytes("texs.dat")]);
-    const hasArial = await face;
-    const desktop = new Desktop(document.getElementById("stage"), files, hasArial);
+    fetchFaces();
+    const desktop = new Desktop(document.getElementById("stage"), files);
     const engine = await createEngine({
         desktop,
         noInitialRun: true,
