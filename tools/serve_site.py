@@ -2,10 +2,15 @@
 """Serves a folder to browsers of this machine alone, and says the address.
 
     serve_site.py FOLDER
+
+The port is always the same, because a browser keeps the saved games of each port apart.
 """
 import functools
 import http.server
 import sys
+
+
+PORT = 8421
 
 
 class Handler(http.server.SimpleHTTPRequestHandler):
@@ -27,9 +32,18 @@ class Handler(http.server.SimpleHTTPRequestHandler):
         pass
 
 
+def listen(handler):
+    try:
+        return http.server.ThreadingHTTPServer(("127.0.0.1", PORT), handler)
+    except OSError:
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)  # one that is free
+        print(f"Port {PORT} is taken. On port {server.server_port} the browser keeps other saved games: those of port {PORT} are not there, "
+              "and those of now will not be there next time. Download them in the page (Pozice) to keep them.")
+        return server
+
+
 def main():
-    # Port 0: one that is free.
-    with http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Handler, directory=sys.argv[1])) as server:
+    with listen(functools.partial(Handler, directory=sys.argv[1])) as server:
         print(f"Play at http://127.0.0.1:{server.server_port}/ (Ctrl+C ends this)", flush=True)
         try:
             server.serve_forever()
