@@ -1,6 +1,9 @@
 // The game in a browser.
+#include <cerrno>
+
 #include "app/resume.h"
 #include "app/start_up.h"
+#include "saves/durable_file.h"
 #include "saves/save_files.h"
 #include "saves/save_format.h"
 #include "saves/save_inspection.h"
@@ -31,6 +34,18 @@ Bytes InterruptedGame() {
 
 // The page may call these at any time, also while `main` waits for an event, so they must not wait themselves.
 extern "C" {
+
+// Called before all else.
+void TellFacts() {
+    namespace page = ui::web::page;
+    page::TellErrorNumber("EINVAL", EINVAL);
+    page::TellErrorNumber("EIO", EIO);
+    page::TellErrorNumber("ENAMETOOLONG", ENAMETOOLONG);
+    page::TellErrorNumber("ENOSPC", ENOSPC);
+    page::TellErrorNumber("ETIMEDOUT", ETIMEDOUT);
+    page::TellFileName("extension", SaveExtension);
+    page::TellFileName("draftPrefix", DraftPrefix);
+}
 
 // Judges the file that the page has written to /incoming.
 void InspectIncoming() {

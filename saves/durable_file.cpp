@@ -13,9 +13,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A draft is a file that is being written. Its name has the number of the process and a count between these two, so that two running games
-// never write the same draft. A program that was interrupted leaves its draft behind.
-constexpr std::string_view DraftPrefix = ".saving-";
+// A draft's name has the number of the process and a count between the prefix and this, so that two running games never write the same
+// draft. A program that was interrupted leaves its draft behind.
 constexpr std::string_view DraftSuffix = ".tmp";
 
 [[noreturn]] void Fail() {

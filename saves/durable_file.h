@@ -5,8 +5,12 @@
 #include <filesystem>
 #include <span>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
+
+// Of the names of drafts, files that are being written.
+inline constexpr std::string_view DraftPrefix = ".saving-";
 
 // Replaces the file as a whole; afterwards the bytes are on the disk, not only on their way there. Throws system_error. The old file is
 // then as it was, unless the last step failed, which flushes the folder: the new file then stands in its place, whole, but may be lost with

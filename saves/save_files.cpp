@@ -22,32 +22,31 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view Extension = ".TVX";
-
 fs::path SavesFolder(const Game& game) {
     return game.state.AppPath / "data" / "saves";
 }
 
 // The list goes by the last three characters alone.
 bool IsListed(std::string_view fileName) {
-    return text::UpperAscii(text::LastChars(fileName, 3)) == "TVX" && text::CharCount(fileName) >= Extension.size();
+    return text::UpperAscii(text::LastChars(fileName, 3)) == "TVX" && text::CharCount(fileName) >= SaveExtension.size();
 }
 
 bool HasExtension(std::string_view fileName) {
-    return text::UpperAscii(text::LastChars(fileName, Extension.size())) == Extension;
+    return text::UpperAscii(text::LastChars(fileName, SaveExtension.size())) == SaveExtension;
 }
 
 std::string_view SaveName(std::string_view fileName) {
-    return fileName.substr(0, fileName.size() - text::LastChars(fileName, Extension.size()).size());
+    return fileName.substr(0, fileName.size() - text::LastChars(fileName, SaveExtension.size()).size());
 }
 
 // Finds "Game1.tvx" too, which a system whose file names have no case may have made of the name.
 std::string FileName(const fs::path& folder, std::string_view name) {
-    const std::string exact = std::string(name).append(Extension);
+    const std::string exact = std::string(name).append(SaveExtension);
     const auto files = FilesIn(folder);
     if (std::ranges::find(files, exact) != files.end()) return exact;
-    const auto other = std::ranges::find_if(
-        files, [&](std::string_view file) { return file.starts_with(name) && text::UpperAscii(file.substr(name.size())) == Extension; });
+    const auto other = std::ranges::find_if(files, [&](std::string_view file) {
+        return file.starts_with(name) && text::UpperAscii(file.substr(name.size())) == SaveExtension;
+    });
     return other == files.end() ? exact : *other;
 }
 

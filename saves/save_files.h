@@ -9,6 +9,8 @@
 
 #include "core/game.h"
 
+inline constexpr std::string_view SaveExtension = ".TVX";
+
 // The names of the saved games in the order of their files. A character that no name can have stands as "?".
 std::vector<std::string> SaveNames(const Game& game);
 

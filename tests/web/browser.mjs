@@ -87,6 +87,13 @@ export function findSmall(tab) {
     });
 }
 
+// Clicks the button that is called so.
+export async function press(tab, words) {
+    const button = await tab.evaluateHandle((label) => [...document.querySelectorAll("button")].find((each) =>
+        [each.textContent, each.ariaLabel].includes(label)), words);
+    await button.click();
+}
+
 // A browser with a profile of its own, which has nothing of an earlier one.
 export class Browser {
     complaints = [];

@@ -52,6 +52,7 @@ export class FakeStore {
 }
 
 export class FakeFolder {
+    extension = ".TVX";
     files = new Map();
     names() { return [...this.files.keys()]; }
     read(name) { return this.files.get(name); }

@@ -7,7 +7,7 @@ import { tmpdir } from "node:os";
 import path from "node:path";
 import { after, before, test } from "node:test";
 import { pathToFileURL } from "node:url";
-import { Browser, findBarriers, serve } from "./browser.mjs";
+import { Browser, findBarriers, press, serve } from "./browser.mjs";
 import { Listener, growEars } from "./listener.mjs";
 import { Player } from "./player.mjs";
 import { browser, chromiumAlone, inFirefox, patience, server, stageScenes } from "./scenes.mjs";
@@ -56,12 +56,6 @@ async function loadNamed(player, name) {
 // The room that a loaded game is told to be in, and what is carried.
 function situation({ forms: { Form1: { controls } } }) {
     return { room: controls.Text1.text.split("\r\n").slice(-3), carried: controls.List1.entries };
-}
-
-async function press(tab, words) {
-    const button = await tab.evaluateHandle((label) => [...document.querySelectorAll("button")].find((each) =>
-        [each.textContent, each.ariaLabel].includes(label)), words);
-    await button.click();
 }
 
 async function downloaded(tab, name, by = browser) {
@@ -195,6 +189,25 @@ test("where nothing can be kept the player hears of it first, and can still carr
     assert.ok((await downloaded(tab, "jen tady", forgetful)).length > 0);
     // Firefox says on its own that it keeps no page either.
     assert.deepEqual(forgetful.complaints.filter((complaint) => !complaint.includes("ServiceWorker")), []);
+});
+
+test("a store that never answers holds a save up for a while, and the game goes on", chromiumAlone, async () => {
+    const tab = await browser.open(server.address, { prepare: () => { IDBFactory.prototype.open = () => ({}); } });
+    const player = new Player(tab);
+    await player.keys("Enter", "Enter");
+    await player.saveAs("nikam");
+    await tab.waitForSelector("#message-box:not([hidden])", { timeout: 10_000 });
+    const { messageBoxes } = await player.look();
+    assert.match(messageBoxes[0].text, /[Uu]lož/);
+    assert.match(await tab.$eval("#storage-notice", (notice) => notice.textContent), /nedokázal uložit: „nikam“/);
+    for (let letter = 0; letter < "nikam".length; ++letter) await player.keys("Backspace");
+    await player.type("Form4.Text1", "exit");
+    await player.keys("Enter");
+    await player.command("Vezmi", "nářadí");
+    assert.deepEqual((await player.look()).forms.Form1.controls.List1.entries, ["nářadí"]);
+    await player.command("Nahraj pozici");
+    assert.deepEqual((await player.look()).forms.Form4.controls.List1.entries, ["nikam"]);
+    await tab.close();
 });
 
 test("the second visit needs no network", patience, async (scene) => {

@@ -91,7 +91,19 @@ test("Enter is heard that was pressed on the title before the game had come", pa
     await tab.keyboard.press("Enter");
     send();
     await tab.waitForSelector("#Form1:not([hidden])");
-    await tab.waitForFunction(() => document.getElementById("Form1.Text1").textContent !== "");
+    await tab.waitForFunction(() => !document.getElementById("Form1.Text1").matches(".invisible"));
+    await tab.close();
+});
+
+test("Enter that was held in the address bar does not go on from the title", patience, async () => {
+    const tab = await browser.open(server.address, { shows: "#stage" });
+    const keyboard = await tab.createCDPSession();
+    const hold = () => keyboard.send("Input.dispatchKeyEvent",
+        { type: "keyDown", key: "Enter", code: "Enter", text: "\r", windowsVirtualKeyCode: 13, autoRepeat: true });
+    await hold();
+    await tab.waitForSelector("#Form1:not([hidden])");
+    await hold();
+    assert.equal((await shown(new Player(tab), "Form1", "Text1")).visible, false);  // until the title is left
     await tab.close();
 });
 

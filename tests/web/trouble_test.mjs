@@ -3,6 +3,7 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 import { Browser, serve } from "./browser.mjs";
+import { Player } from "./player.mjs";
 import { patience } from "./scenes.mjs";
 
 const site = process.argv[2];
@@ -38,6 +39,30 @@ for (const [name, spoil, sentence] of [
         await tab.close();
     });
 }
+
+test("a game that has crashed says so, and begins anew without asking whether to leave", patience, async (scene) => {
+    // It crashes when it draws a number, as it does to save.
+    const crash = '(() => { throw new WebAssembly.RuntimeError("unreachable"); })()';
+    const crashing = (name, bytes) => name === "game.js" ? String(bytes).replaceAll("Math.random()", crash) : bytes;
+    const server = await serve(site, crashing);
+    scene.after(() => server.stop());
+    const tab = await browser.open(server.address);
+    const player = new Player(tab);
+    const questions = [];
+    tab.on("dialog", (dialog) => {
+        questions.push(dialog.type());
+        dialog.accept();
+    });
+    await player.keys("Enter", "Enter");
+    await player.command("Vezmi", "nářadí");
+    await player.saveAs("pád");
+    await tab.waitForSelector(trouble.shows);
+    assert.match(await told(tab), /Ve hře nastala chyba/);
+    await tab.click("#try-again");
+    await tab.waitForSelector("#Form1:not([hidden])");
+    assert.deepEqual(questions, []);
+    await tab.close();
+});
 
 test("a browser without WebAssembly, and one without scripts, are told what the game needs", patience, async (scene) => {
     const server = await serve(site);

@@ -51,6 +51,12 @@ EM_JS(void, page_offer_game, (const void* game), { Module.desktop.game = game; }
 EM_JS(void, page_answer_inspection, (const char* finding, int findingSize, const char* name, int size), {
     Module.desktop.inspection = { finding: UTF8ToString(finding, findingSize), name: UTF8ToString(name, size) };
 })
+EM_JS(void, page_tell_error_number, (const char* name, int size, int number), {
+    Module.desktop.facts.errorNumbers[UTF8ToString(name, size)] = number;
+})
+EM_JS(void, page_tell_file_name, (const char* name, int size, const char* text, int textSize), {
+    Module.desktop.facts[UTF8ToString(name, size)] = UTF8ToString(text, textSize);
+})
 EM_JS(void, page_answer_snapshot, (const void* snapshot, int size), {
     Module.desktop.snapshot = size > 0 ? HEAPU8.slice(snapshot, snapshot + size) : null;
 })
@@ -80,6 +86,14 @@ std::string TakeText(int field) {
 }
 
 }  // namespace
+
+void TellErrorNumber(std::string_view name, int number) {
+    page_tell_error_number(name.data(), Size(name), number);
+}
+
+void TellFileName(std::string_view part, std::string_view characters) {
+    page_tell_file_name(part.data(), Size(part), characters.data(), Size(characters));
+}
 
 Event WaitForEvent() {
     page_wait();

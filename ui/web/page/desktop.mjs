@@ -34,6 +34,7 @@ export class Desktop {
     constructor(stage, files) {
         this.#stage = stage;
         this.files = files;
+        this.facts = { errorNumbers: {}, extension: "", draftPrefix: "" };  // told by the program
         this.events = new EventQueue();
         this.english = new EnglishWords();
         this.#messageBox = new MessageBox(this.events);

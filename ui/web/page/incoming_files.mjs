@@ -54,7 +54,7 @@ export class IncomingFiles {
     // Asks the player if the file has been renamed or would replace a saved game. A renamed file gets the name that was saved in it, because
     // loading it under any other name would end the game.
     async #mayTake(file, name, overwrites) {
-        const fileName = file.name.normalize().replace(/\.tvx$/i, "");
+        const fileName = this.#savedGames.claimedName(file.name.normalize());
         const renamed = fileName !== name;
         if (!renamed && !overwrites) return true;
         const facts = [

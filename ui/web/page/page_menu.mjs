@@ -150,13 +150,13 @@ export class PageMenu {
     }
 
     #download(name) {
-        this.#hand(`${name}.TVX`, new Blob([this.#savedGames.bytes(name)], { type: "application/octet-stream" }));
+        this.#hand(this.#savedGames.fileName(name), new Blob([this.#savedGames.bytes(name)], { type: "application/octet-stream" }));
         this.#savedGames.noteDownload(name);
     }
 
     #downloadAll() {
         const names = this.#savedGames.names();
-        this.#hand(AllFiles, zip(names.map((name) => [`${name}.TVX`, this.#savedGames.bytes(name)])));
+        this.#hand(AllFiles, zip(names.map((name) => [this.#savedGames.fileName(name), this.#savedGames.bytes(name)])));
         for (const name of names) this.#savedGames.noteDownload(name);
     }
 

@@ -73,11 +73,11 @@ export class RunningGame {
     async #writeWanted() {
         const bytes = this.#wanted;
         const outdated = [...this.#outdated];
-        await this.#store.open();
-        await this.#store.save(new Map([
+        await inTime(this.#store.open());
+        await inTime(this.#store.save(new Map([
             ...outdated.map((id) => [id, undefined]),
             [this.#id, bytes ? { time: Date.now(), bytes } : undefined],
-        ]));
+        ])));
         for (const id of outdated) this.#outdated.delete(id);
         this.#kept = bytes;
         this.#session.last = this.#id;

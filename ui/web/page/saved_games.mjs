@@ -2,8 +2,6 @@
 import { equalBytes } from "./bytes.mjs";
 import { canNameFile } from "./saves_folder.mjs";
 
-const Extension = ".TVX";
-
 function listed(names) {
     return names.map((name) => `„${name}“`).join(", ");
 }
@@ -47,29 +45,43 @@ export class SavedGames {
         this.onNews();
     }
 
+    fileName(name) {
+        return name + this.#folder.extension;
+    }
+
+    #nameOf(file) {
+        return file.slice(0, -this.#folder.extension.length);
+    }
+
+    // The name that a file from elsewhere has by its own name.
+    claimedName(file) {
+        const { extension } = this.#folder;
+        return file.toUpperCase().endsWith(extension) ? this.#nameOf(file) : file;
+    }
+
     names() {
-        return this.#folder.names().map((file) => file.slice(0, -Extension.length)).sort((a, b) => a.localeCompare(b, "cs"));
+        return this.#folder.names().map((file) => this.#nameOf(file)).sort((a, b) => a.localeCompare(b, "cs"));
     }
 
     // Undefined when there is no such saved game.
     bytes(name) {
-        return this.#folder.read(name + Extension);
+        return this.#folder.read(this.fileName(name));
     }
 
     canName(name) {
-        return canNameFile(name + Extension);
+        return canNameFile(this.fileName(name));
     }
 
     // Promises whether the browser keeps it; rejects when that failed. It is in the folder all the same.
     put(name, bytes) {
-        this.#folder.write(name + Extension, bytes);
+        this.#folder.write(this.fileName(name), bytes);
         this.onChange();
         return this.#keep();
     }
 
     // Promises whether the browser has forgotten it, as put does.
     remove(name) {
-        this.#folder.remove(name + Extension);
+        this.#folder.remove(this.fileName(name));
         this.onChange();
         return this.#keep();
     }
@@ -79,7 +91,7 @@ export class SavedGames {
     }
 
     #isOnlyHere(name) {
-        return this.#records.isUnwritten(name + Extension);
+        return this.#records.isUnwritten(this.fileName(name));
     }
 
     #isInDanger(name) {

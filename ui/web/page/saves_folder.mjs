@@ -1,12 +1,8 @@
 // The folder of saved games in the program's file system, which is in memory. To keep a file, the program calls fsync on the folder, as it
 // does on a disk; fsync then waits for `keep`, which keeps the files beyond the life of the page.
 
-const DraftPrefix = ".saving-";  // of files that the program is still writing
 const MostNameBytes = 255;  // as on a disk; the program cannot list longer names
-
-// The program's numbers of errors.
-const Errno = { EINVAL: 28, EIO: 29, ENAMETOOLONG: 37, ENOSPC: 51, ETIMEDOUT: 73 };
-const ErrnoOf = { QuotaExceededError: Errno.ENOSPC, TimeoutError: Errno.ETIMEDOUT };
+const Reasons = { QuotaExceededError: "ENOSPC", TimeoutError: "ETIMEDOUT" };
 
 export function canNameFile(name) {
     return new TextEncoder().encode(name).length <= MostNameBytes;
@@ -15,15 +11,23 @@ export function canNameFile(name) {
 export class SavesFolder {
     #files;
     #path;
+    #errorNumbers;
+    #draftPrefix;  // of files that the program is still writing
+    extension;
 
-    constructor(files, path) {
+    // The facts are those that the program tells.
+    constructor(files, path, { errorNumbers, draftPrefix, extension }) {
         this.#files = files;
         this.#path = path;
+        this.#errorNumbers = errorNumbers;
+        this.#draftPrefix = draftPrefix;
+        this.extension = extension;
     }
 
     // `keep` promises whether the files are kept, and rejects when keeping them failed.
     keepBy(keep) {
         const files = this.#files;
+        const errors = this.#errorNumbers;
         const { node } = files.lookupPath(this.#path);
         const { rename } = node.node_ops;
         node.node_ops = {
@@ -31,19 +35,19 @@ export class SavesFolder {
             // Emscripten's own rename takes names of any length. It also leaves a replaced file in its hash, so that the program would go on
             // finding the old file.
             rename(file, folder, name) {
-                if (!canNameFile(name)) throw new files.ErrnoError(Errno.ENAMETOOLONG);
+                if (!canNameFile(name)) throw new files.ErrnoError(errors.ENAMETOOLONG);
                 const replaced = folder.contents[name];
                 if (replaced) files.hashRemoveNode(replaced);
                 rename(file, folder, name);
             },
         };
         // EINVAL tells the program that this file system keeps nothing.
-        const fsync = () => keep().then((kept) => kept ? 0 : Errno.EINVAL, (error) => ErrnoOf[error?.name] ?? Errno.EIO);
+        const fsync = () => keep().then((kept) => kept ? 0 : errors.EINVAL, (error) => errors[Reasons[error?.name] ?? "EIO"]);
         node.stream_ops = { ...node.stream_ops, fsync };
     }
 
     names() {
-        return this.#files.readdir(this.#path).filter((name) => name !== "." && name !== ".." && !name.startsWith(DraftPrefix));
+        return this.#files.readdir(this.#path).filter((name) => name !== "." && name !== ".." && !name.startsWith(this.#draftPrefix));
     }
 
     // Undefined when there is no such file.

@@ -39,9 +39,10 @@ async function run(files) {
             return {};
         },
     });
+    engine._TellFacts();
     engine.FS.mkdirTree(`${ProgramFolder}/data/saves`);
     engine.FS.writeFile(`${ProgramFolder}/data/texs.dat`, story);
-    const folder = new SavesFolder(engine.FS, `${ProgramFolder}/data/saves`);
+    const folder = new SavesFolder(engine.FS, `${ProgramFolder}/data/saves`, desktop.facts);
     const records = new Records(new BrowserStore("orvel-tavoren", "saves"), folder);
     const savedGames = new SavedGames(folder, records, { askToKeepForGood, isPrivateWindow });
     savedGames.onChange = () => desktop.events.post(EventKind.FilesChanged);
