@@ -33,6 +33,7 @@ for (const [name, spoil, sentence] of [
         if (await tab.$("#message-box:not([hidden])")) await tab.keyboard.press("Enter");
         await tab.waitForSelector(trouble.shows);
         assert.match(await told(tab), sentence);
+        assert.equal(await tab.evaluate(() => document.activeElement.id), "try-again");
         mended = true;
         await tab.click("#try-again");
         await tab.waitForSelector("#Form1:not([hidden])");
