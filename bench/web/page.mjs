@@ -58,13 +58,7 @@ async function serve(folder) {
     return { server, fetched, address: `http://127.0.0.1:${server.address().port}/` };
 }
 
-// Run in the page before its scripts.
-function notePaints() {
-    window.paints = [];
-    const note = (list) => paints.push(...list.getEntries().map(({ startTime, url }) => ({ time: startTime, url: url ?? "" })));
-    for (const type of ["paint", "largest-contentful-paint"]) new PerformanceObserver(note).observe({ type, buffered: true });
-}
-
+// Runs in the page before its scripts.
 function notePlaying() {
     addEventListener("playing", () => {
         window.playingTime = performance.now();
@@ -97,7 +91,7 @@ async function openCold(browser, address, isGame, network = Networks[0]) {
     const isPhone = network.width < network.height;
     await page.setViewport({ width: network.width, height: network.height, hasTouch: isPhone, isMobile: isPhone });
     await throttle(page, network);
-    for (const note of [notePaints, notePlaying, noteMemory]) await page.evaluateOnNewDocument(note);
+    for (const note of [notePlaying, noteMemory]) await page.evaluateOnNewDocument(note);
     const playing = new Promise((plays) => { page.on("console", (message) => message.text() === "playing" && plays()); });
     await page.goto(address);
     if (isGame) await playing;
@@ -107,14 +101,16 @@ async function openCold(browser, address, isGame, network = Networks[0]) {
 
 async function measureStart(browser, address, isGame, network) {
     const { page, context } = await openCold(browser, address, isGame, network);
-    const { paints, playingTime } = await page.evaluate(() => ({ paints: window.paints, playingTime: window.playingTime }));
+    const { paints, playing } = await page.evaluate(() => ({
+        paints: performance.getEntriesByName("first-contentful-paint").map(({ startTime }) => startTime),
+        playing: window.playingTime,
+    }));
     await context.close();
-    const painted = paints.filter(({ url }) => !isGame || url.endsWith("title.webp")).map(({ time }) => time);
-    return { painted: Math.min(...painted), playing: playingTime };
+    return { painted: paints[0], playing };
 }
 
 async function measureStarts(browser, game, bare, network) {
-    const times = { line: [], title: [], playing: [] };
+    const times = { line: [], title: [], playing: [] };  // the title is the first that the page paints
     for (let start = 0; start < Starts; ++start) {
         const { painted, playing } = await measureStart(browser, game, true, network);
         times.title.push(painted);
