@@ -27,7 +27,7 @@ std::string_view WordFor(Inspection::Finding finding) {
 
 // Where the page puts the snapshot of a game that was interrupted.
 Bytes InterruptedGame() {
-    return ReadWholeFile("/interrupted", "Rozehranou hru se nepodařilo přečíst.");
+    return ReadFile("/interrupted", "Rozehranou hru se nepodařilo přečíst.");
 }
 
 }  // namespace
@@ -43,15 +43,15 @@ void TellFacts() {
     page::TellErrorNumber("ENAMETOOLONG", ENAMETOOLONG);
     page::TellErrorNumber("ENOSPC", ENOSPC);
     page::TellErrorNumber("ETIMEDOUT", ETIMEDOUT);
-    page::TellFileName("extension", SaveExtension);
-    page::TellFileName("draftPrefix", DraftPrefix);
+    page::TellPartOfSaveName("extension", SaveExtension);
+    page::TellPartOfSaveName("draftPrefix", DraftPrefix);
 }
 
 // Judges the file that the page has written to /incoming.
 void InspectIncoming() {
     Inspection inspection{.Found = Inspection::Finding::Damaged, .Name = ""};
     try {
-        inspection = InspectSave(ReadWholeFile("/incoming", "", MostSaveBytes + 1));
+        inspection = InspectSave(ReadFile("/incoming", "", MostSaveBytes + 1));
     } catch (const ui::GameError&) {
         // A file that cannot be read counts as damaged.
     }

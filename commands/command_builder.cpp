@@ -49,7 +49,7 @@ void VerbClick(Game& game) {
     if (game.state.CommandObject != NotChosen) return;
     game.state.CommandVerb = static_cast<std::int16_t>(form.List2[0].Selected());
     form.List2[1].Clear();
-    if (game.state.CommandVerb <= verb::Talk) FillObjectList(game);
+    if (game.state.CommandVerb <= verb::LastObjectVerb) FillObjectList(game);
     Echo(game, std::string(form.List2[0].SelectedEntry()));
 }
 
@@ -71,7 +71,7 @@ void TargetClick(Game& game) {
 void List1_Click(Game& game) {
     const ui::ListBox& carried = game.windows.Form1.List1;
     const GameState& state = game.state;
-    if (state.GameStage == GameStage::Title || state.CommandVerb < verb::Examine || state.CommandVerb > verb::Talk) return;
+    if (state.GameStage == GameStage::Title || state.CommandVerb < verb::Examine || state.CommandVerb > verb::LastObjectVerb) return;
     if (carried.Entry(0) == ui::NothingThere) return;
     const std::int16_t item = state.Inventory[static_cast<std::size_t>(carried.Selected())];
     if (state.CommandObject == NotChosen) {

@@ -17,7 +17,7 @@ struct CloseFile {
 }  // namespace
 
 // Through C's files, because a stream of C++ would bring the library's locales into the page's program, a third of its size.
-Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough) {
+Bytes ReadFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough) {
     std::error_code error;
     std::unique_ptr<std::FILE, CloseFile> file;
     // Folders are left out first, because opening one succeeds on some systems, and only reading it fails.

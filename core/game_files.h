@@ -1,4 +1,4 @@
-// Reading the files of the game, which all consist of 16-bit little-endian words.
+// Reading the game's files: the texts and the saved games are both made of 16-bit little-endian words.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 using Bytes = std::vector<std::uint8_t>;
 
 // Throws GameError with the given Czech sentence when the file cannot be read. What comes after `enough` bytes may stay unread.
-Bytes ReadWholeFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough = SIZE_MAX);
+Bytes ReadFile(const std::filesystem::path& path, const std::string& unreadable, std::size_t enough = SIZE_MAX);
 
 class WordReader {
 public:

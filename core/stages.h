@@ -1,4 +1,4 @@
-// The stages of the story threads that have more than two, by the story flag that holds them.
+// What the numbers in GameState mean that are no Booleans; story_flags.def says which flag holds which.
 #pragma once
 
 #include <cstdint>

@@ -24,6 +24,6 @@ std::optional<std::string_view> TextStore::Text(TextNumber number) const {
 }
 
 TextStore PrepareTextStore(const std::filesystem::path& appPath) {
-    return TextStore::Decode(ReadWholeFile(appPath / "data" / "texs.dat",
+    return TextStore::Decode(ReadFile(appPath / "data" / "texs.dat",
                                            "Soubor s texty hry (data/texs.dat) chybí nebo se nedá přečíst. Nainstaluj prosím hru znovu."));
 }

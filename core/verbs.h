@@ -7,7 +7,7 @@
 
 namespace verb {
 
-enum : std::int16_t { Go, Examine, Use, Take, Put, Open, Close, Talk, Clear, Load, Save, Version, Exit };
+enum : std::int16_t { Go, Examine, Use, Take, Put, Open, Close, Talk, LastObjectVerb = Talk, Clear, Load, Save, Version, Exit };
 
 constexpr auto Names = std::to_array<std::string_view>({"Jdi", "Prozkoumej", "Použij", "Vezmi", "Polož", "Otevři", "Zavři", "Oslov",
                                                         "Vymaž", "Nahraj pozici", "Ulož pozici", "Verze", "Exit"});

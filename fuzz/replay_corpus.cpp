@@ -12,7 +12,7 @@ int main(int, char** arguments) {
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(arguments[1])) {
         std::cerr << entry.path() << '\n';
-        const Bytes bytes = ReadWholeFile(entry.path(), "unreadable");
+        const Bytes bytes = ReadFile(entry.path(), "unreadable");
         LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
         ++files;
     }

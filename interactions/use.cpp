@@ -37,7 +37,7 @@ constexpr auto UseCases = std::to_array<UseCase>({
     {SecurityCard, Carried, Technician, ReturnCard},
 
     {Tools, Carried, Replicator, RepairReplicator},
-    {Tools, Carried, Panel, OpenPanel},
+    {Tools, Carried, Panel, UnscrewPanel},
     {Tools, Carried, HangarTerminal, RepairHangarTerminal},
     {Tools, Carried, OldDoor, RepairOldDoor},
     {Tools, Carried, BrokenTerminal, DismantleBrokenTerminal},

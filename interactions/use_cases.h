@@ -22,7 +22,7 @@ void ReturnCard(Game& game);
 
 // Repairs.
 void RepairReplicator(Game& game);
-void OpenPanel(Game& game);
+void UnscrewPanel(Game& game);
 void RepairHangarTerminal(Game& game);
 void RepairOldDoor(Game& game);
 void DismantleBrokenTerminal(Game& game);

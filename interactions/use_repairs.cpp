@@ -27,7 +27,7 @@ void FitCoil(Game& game) {
     RemoveFromInventory(game, Item::Coil);
 }
 
-void OpenPanel(Game& game) {
+void UnscrewPanel(Game& game) {
     enum : TextNumber { BombBehindIt = 212 };
     GameState& state = game.state;
     if (state.ContainerStoryState < ContainerStage::AgentTold) return WriteOutput(game, "To není moc dobrý nápad...");

@@ -121,7 +121,7 @@ void SweepDrafts(const fs::path& folder) {
 void ReplaceFile(const fs::path& file, std::span<const std::uint8_t> bytes) {
     const fs::path path = file.parent_path();
     SweepDrafts(path);
-    OpenFile folder(path, O_RDONLY | O_DIRECTORY);  // first of all, because this may fail and the old file must then still be there
+    OpenFile folder(path, O_RDONLY | O_DIRECTORY);  // before the draft, because opening may fail, and the old file must then still be there
     Draft draft(path);
     draft.Write(bytes);
     draft.TakePlaceOf(file);

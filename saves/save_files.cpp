@@ -26,7 +26,7 @@ fs::path SavesFolder(const Game& game) {
     return game.state.AppPath / "data" / "saves";
 }
 
-// The list goes by the last three characters alone.
+// The list has always gone by the last three characters alone, so it shows "HraTVX" as well, whose missing dot RefuseMissingDot tells.
 bool IsListed(std::string_view fileName) {
     return text::UpperAscii(text::LastChars(fileName, 3)) == "TVX" && text::CharCount(fileName) >= SaveExtension.size();
 }
@@ -102,7 +102,7 @@ GameState FirstState() {
 
 bool Holds(const fs::path& file, const Bytes& contents, const GameState& current) {
     try {
-        const Bytes save = ReadWholeFile(file, "", MostSaveBytes);
+        const Bytes save = ReadFile(file, "", MostSaveBytes);
         const auto held = DecodeSave(save, NameInSave(save), current);
         return held && Contents(*held) == contents;
     } catch (const ui::GameError&) {
@@ -166,7 +166,7 @@ void LoadGame(Game& game, std::string_view name) {
         const fs::path folder = SavesFolder(game);
         const fs::path path = folder / FileName(folder, name);
         if (!fs::exists(path)) RefuseMissingDot(folder, name);
-        file = ReadWholeFile(path, unreadable, MostSaveBytes);
+        file = ReadFile(path, unreadable, MostSaveBytes);
     } catch (const std::system_error& error) {
         throw ui::GameError(Explain(unreadable, error));
     }

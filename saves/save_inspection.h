@@ -12,5 +12,6 @@ struct Inspection {
     std::string Name;  // under which the game was saved and must be put into the folder; empty when it cannot be read
 };
 
-// Finds what loading the file under that name would find. Neither throws nor waits.
+// Whether the System Panel could load the file under the name that stands in it. Stricter than a load, which reads no further than it needs
+// and so refuses no file for its length. Neither throws nor waits.
 Inspection InspectSave(std::span<const std::uint8_t> file);

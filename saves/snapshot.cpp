@@ -7,11 +7,13 @@
 #include <utility>
 
 #include "core/stages.h"
+#include "core/verbs.h"
 #include "saves/save_format.h"
 
 namespace {
 
-// Part of the sum. Raise it when this file writes the bytes otherwise.
+// Part of the sum. Raise it when the bytes, or what a number in them means, change in a way that the sum does not notice: the layout of a
+// saved game, say, or a stage of the story.
 constexpr std::uint64_t Version = 1;
 
 constexpr std::size_t SumBytes = 8;
@@ -40,11 +42,13 @@ private:
     std::uint64_t sum = 0xCBF29CE484222325;
 };
 
-// The sum is over the content and over everything that gives the content its meaning: the flags, things, windows and controls by name and
-// order, and the texts. So a program in which one of these has changed refuses the snapshots of the program before it.
+// The sum is over the content and over the names that its numbers stand for: flags, things, verbs, windows and controls in their order, the
+// sizes of the tables, and the texts. So a program in which one of these has changed refuses the snapshots of the program before it.
 std::array<std::uint8_t, SumBytes> SumOf(const Game& game, std::span<const std::uint8_t> content) {
     Sum sum;
     sum.AddByte(Version);
+    for (const std::size_t size : {MostCarried, TerminalCount, std::size_t{LastSector}}) sum.AddByte(static_cast<std::uint8_t>(size));
+    for (const std::string_view word : verb::Names) sum.Add(word);
     for (const StoryFlag& flag : StoryFlags) sum.Add(flag.Name);
     for (std::int16_t item = 1; item <= NumberOf(LastItem); ++item) sum.Add(ItemName(Item{item}));
     for (const ui::Form* form : game.windows.All) {

@@ -1,5 +1,5 @@
 // What the game asks of the screen beyond the models of its windows.
-// A desktop mirrors the models; it never changes them but through the functions of ui/input.h.
+// A desktop mirrors the models; it changes them through ui/input.h and TextBox::EditText, and nowhere else.
 #pragma once
 
 #include <string_view>

@@ -132,7 +132,7 @@ TEST(Resume, RefusesADamagedSnapshotAndOneOfOtherTexts) {
     }
     EXPECT_FALSE(IsSnapshot(other.TheGame(), std::span(snapshot).first(snapshot.size() / 2)));
     EXPECT_FALSE(IsSnapshot(other.TheGame(), {}));
-    const Bytes packed = ReadWholeFile(ORVEL_TEXTS_FILE, "no texts");
+    const Bytes packed = ReadFile(ORVEL_TEXTS_FILE, "no texts");
     for (const std::size_t changed : {std::size_t{6}, packed.size() - 2}) {  // the first character of all, and the last
         Bytes others = packed;
         others[changed] ^= 1;

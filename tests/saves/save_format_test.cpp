@@ -51,7 +51,7 @@ Outcome TryLoading(std::size_t word, int value) {
 // Written by another program from the description of the format: called "Čtvrtá paluba ž", keys 42 and 77.
 TEST(SaveFormat, ReadsAndWritesTheGoldenSaveByteForByte) {
     constexpr std::string_view name = "Čtvrtá paluba ž";
-    const Bytes golden = ReadWholeFile(ORVEL_SOURCE_FOLDER "/tests/saves/golden.TVX", "no golden save");
+    const Bytes golden = ReadFile(ORVEL_SOURCE_FOLDER "/tests/saves/golden.TVX", "no golden save");
     const auto state = DecodeSave(golden, name, StartState());
     ASSERT_TRUE(state);
     EXPECT_EQ(state->CurrentSector, sector::Hangar);

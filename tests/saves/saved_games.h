@@ -37,7 +37,7 @@ struct SavedGames {
         std::ofstream(Folder() / fileName, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
     }
 
-    Bytes FileBytes(const std::string& fileName) const { return ReadWholeFile(Folder() / fileName, "unreadable"); }
+    Bytes FileBytes(const std::string& fileName) const { return ReadFile(Folder() / fileName, "unreadable"); }
 
     // What the player is told, empty when all went well.
     std::string Save(std::string_view name) {

@@ -91,7 +91,7 @@ void TellErrorNumber(std::string_view name, int number) {
     page_tell_error_number(name.data(), Size(name), number);
 }
 
-void TellFileName(std::string_view part, std::string_view characters) {
+void TellPartOfSaveName(std::string_view part, std::string_view characters) {
     page_tell_file_name(part.data(), Size(part), characters.data(), Size(characters));
 }
 

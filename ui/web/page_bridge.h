@@ -32,7 +32,7 @@ struct Event {
 
 // What the page must know of the system and of the saved games' files, told before the page has anything to do with them.
 void TellErrorNumber(std::string_view name, int number);
-void TellFileName(std::string_view part, std::string_view characters);
+void TellPartOfSaveName(std::string_view part, std::string_view characters);
 
 // Waits until the player does something. The page's own scripts run only here and while a saved game is being kept.
 Event WaitForEvent();

@@ -1,6 +1,6 @@
 // The one place from which a screen reader speaks of its own accord: what the player's last move brought, once.
 
-const Spoken = 5000;  // milliseconds after which the words are gone, because what was spoken is not to be read again on the way
+const Spoken = 5000;  // milliseconds after which the words are gone, because a player who reads the page on would come across them again
 
 export class Announcer {
     #element;

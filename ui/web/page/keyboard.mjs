@@ -18,7 +18,7 @@ function isShortcut(event) {
     return (event.ctrlKey || event.metaKey || event.altKey) && !event.getModifierState("AltGraph");
 }
 
-// Lets the style mark the line that has the focus, too, for a player who moves by Tab.
+// Notes whether the player moves by Tab. Only then does the style frame a line that has the focus, because otherwise its caret shows it.
 function noteTabbing() {
     const { classList } = document.documentElement;
     document.addEventListener("keydown", ({ key }) => { if (key === "Tab") classList.add("by-keyboard"); });

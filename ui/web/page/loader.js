@@ -18,7 +18,7 @@
         again.hidden = reason === "old" || reason === "folder";
         again.onclick = function () {
             function reload() { location.reload(); }
-            // The browser may have kept a damaged file, and would use it again.
+            // The browser may have kept the damaged file and would use it again after a mere reload.
             if (address) fetch(address, { cache: "reload" }).then(reload, reload);
             else reload();
         };
@@ -32,7 +32,7 @@
         return !("noModule" in document.createElement("script")) || !("inert" in document.body) || !window.CSS || !CSS.registerProperty;
     }
 
-    // A script's events tell neither a missing file from a lost network nor a damaged file from a sound one.
+    // Asks for the file once more, because the events of a script do not tell whether it is missing, damaged or out of reach.
     function checkStart() {
         if (started) return;
         if (!game) show("incomplete");
@@ -51,8 +51,8 @@
         script.onload = script.onerror = checkStart;
     }
 
-    // The program, the largest part of the game, is on its way since the page's head. All else comes behind the title, to which more would
-    // leave too little of a slow network.
+    // The page's head already fetches the program, the largest part of the game. The rest waits for the title's picture, because on a slow
+    // network it would delay the picture.
     function fetchGame() {
         if (asked) return;
         asked = true;
@@ -68,8 +68,8 @@
         setTimeout(fetchGame, 5000);  // a picture that does not come keeps nobody from playing
     }
 
-    // The player may press Enter at the title before the game is there to hear it. One that is held repeats, and was meant for something
-    // else: the address bar, say.
+    // Notes an Enter that the player presses at the title before the game can hear it. An Enter that repeats does not count, because it was
+    // pressed before the page came, in the address bar for example, and is still held.
     function noteEnter(event) {
         if (event.key === "Enter" && !event.repeat) enterPressed = true;
     }

@@ -1,4 +1,5 @@
-// The page's own menu, outside of the game's windows: what the browser does with the saved games, and their way out of it and into it.
+// The page's own menu, outside of the game's windows: what the browser does with the saved games, and how they
+// leave it and come into it as files.
 import { IncomingFiles } from "./incoming_files.mjs";
 import { zip } from "./zip.mjs";
 
@@ -181,8 +182,8 @@ export class PageMenu {
         this.#answers.append(newElement("p", { textContent: sentence }));
     }
 
-    // One question at a time: a newer one, or closing the dialog, answers the older with no. So does Enter, because a player who presses it
-    // twice has not heard the question.
+    // One question at a time: a newer one, or closing the dialog, answers the older with no. The button that refuses has the focus, so
+    // that a second Enter, which was meant for the button before, does no harm.
     #ask(question, yes, no) {
         this.#asking?.(false);
         const asked = document.activeElement;

@@ -21,7 +21,8 @@ async function takeTitleAway(desktop) {
     requestAnimationFrame(() => setTimeout(() => title?.remove()));
 }
 
-// On their way while the program starts, but not before it is here. Where they do not come, another face is shown.
+// Fetches the faces while the program starts, and not earlier, because they would delay the fetching of the program. Without them the browser
+// shows the next family that style.css names.
 function fetchFaces() {
     for (const weight of ["normal", "bold"]) document.fonts.load(`${weight} 13px "Orvel Sans"`, "ř").catch((error) => console.warn(error));
 }
