@@ -25,5 +25,5 @@ std::optional<std::string_view> TextStore::Text(TextNumber number) const {
 
 TextStore PrepareTextStore(const std::filesystem::path& appPath) {
     return TextStore::Decode(ReadFile(appPath / "data" / "texs.dat",
-                                           "Soubor s texty hry (data/texs.dat) chybí nebo se nedá přečíst. Nainstaluj prosím hru znovu."));
+                                      "Soubor s texty hry (data/texs.dat) chybí nebo se nedá přečíst. Nainstaluj prosím hru znovu."));
 }
