@@ -1,4 +1,5 @@
 // Files that a player gives the page, with a program that finds of each what the test wants.
+import { File } from "node:buffer";  // no global in the node of Debian 12
 import assert from "node:assert/strict";
 import { beforeEach, test } from "node:test";
 import { IncomingFiles } from "../../ui/web/page/incoming_files.mjs";
